@@ -1,0 +1,10 @@
+# Applied to every target of the project (not to Qt or system headers).
+add_compile_options(-Wall -Wextra -Wpedantic)
+if(VANDOREL_WERROR)
+  add_compile_options(-Werror)
+endif()
+if(VANDOREL_SANITIZE)
+  add_compile_options(-fsanitize=address,undefined -fno-omit-frame-pointer -fno-sanitize-recover=undefined)
+  add_link_options(-fsanitize=address,undefined)
+endif()
+add_compile_definitions(QT_USE_QSTRINGBUILDER)

@@ -1,0 +1,49 @@
+#include "app/VandorelApp.h"
+
+#include "app/AppDelegate.h"
+#include "core/guard/BrowserManager.h"
+#include "core/guard/EmailClientManager.h"
+#include "core/settings/SettingsStore.h"
+#include "core/support/Console.h"
+#include "core/support/QtTimerFactory.h"
+#include "core/support/SystemClock.h"
+#include "platform/PlatformBackend.h"
+
+#include "BuildConfig.h"
+
+#include <QCoreApplication>
+#include <QTimer>
+
+#include <cstdlib>
+
+VandorelApp::VandorelApp(const Options &options)
+{
+    ensureSingleInstance();
+
+    m_handlers = PlatformBackend::createHandlerDatabase();
+    m_clock = std::make_unique<SystemClock>();
+    m_timers = std::make_unique<QtTimerFactory>();
+    m_environment.settings = &SettingsStore::standard();
+    m_environment.handlers = m_handlers.get();
+    m_environment.clock = m_clock.get();
+    m_environment.timers = m_timers.get();
+    m_environment.launchedAtLogin = options.launchedAtLogin;
+
+    m_delegate = new AppDelegate(this);
+    m_browserManager = std::make_unique<BrowserManager>(m_environment);
+    m_emailClientManager = std::make_unique<EmailClientManager>(m_environment);
+
+    QTimer::singleShot(0, m_delegate, &AppDelegate::applicationDidFinishLaunching);
+    connect(qApp, &QCoreApplication::aboutToQuit, m_delegate, &AppDelegate::applicationWillTerminate);
+}
+
+VandorelApp::~VandorelApp() = default;
+
+void VandorelApp::ensureSingleInstance()
+{
+    m_singleInstance = PlatformBackend::createSingleInstance(QString::fromUtf8(BuildConfig::appId));
+    if (m_singleInstance->claim())
+        return;
+    Console::line(QStringLiteral("⚠️ Another instance is already running. Exiting..."));
+    std::exit(0);
+}

@@ -1,0 +1,43 @@
+#pragma once
+
+#include "core/guard/GuardEnvironment.h"
+
+#include <QObject>
+
+#include <memory>
+
+class AppDelegate;
+class BrowserManager;
+class Clock;
+class EmailClientManager;
+class HandlerDatabase;
+class SingleInstance;
+class TimerFactory;
+
+// Builds and wires the running program: refuses a second copy, starts the process-wide
+// services, constructs both guards and hands the life-cycle call-backs to AppDelegate.
+class VandorelApp : public QObject {
+    Q_OBJECT
+public:
+    struct Options {
+        bool launchedAtLogin = false;
+    };
+
+    explicit VandorelApp(const Options &options);
+    ~VandorelApp() override;
+
+    BrowserManager &browserManager() { return *m_browserManager; }
+    EmailClientManager &emailClientManager() { return *m_emailClientManager; }
+
+private:
+    void ensureSingleInstance();
+
+    std::unique_ptr<SingleInstance> m_singleInstance;
+    std::unique_ptr<HandlerDatabase> m_handlers;
+    std::unique_ptr<Clock> m_clock;
+    std::unique_ptr<TimerFactory> m_timers;
+    GuardEnvironment m_environment;
+    std::unique_ptr<BrowserManager> m_browserManager;
+    std::unique_ptr<EmailClientManager> m_emailClientManager;
+    AppDelegate *m_delegate = nullptr;
+};

@@ -1,0 +1,144 @@
+#include "core/guard/GuardProfile.h"
+
+namespace {
+
+GuardProfile makeBrowserProfile()
+{
+    GuardProfile p;
+    p.targetKey = QStringLiteral("targetDefaultBrowser");
+    p.monitoringEnabledKey = QStringLiteral("monitoringEnabled");
+    p.checkIntervalKey = QStringLiteral("checkInterval");
+    p.snoozeDurationKey = QStringLiteral("snoozeDuration");
+    p.checkOnWakeKey = QStringLiteral("checkOnWake");
+    p.checkOnUnlockKey = QStringLiteral("checkOnUnlock");
+    p.checkOnLoginKey = QStringLiteral("checkOnLogin");
+    p.changeCountKey = QStringLiteral("browserChangeCount");
+    p.lastChangeKey = QStringLiteral("lastBrowserChange");
+    p.launchedBeforeKey = QStringLiteral("hasLaunchedBefore");
+
+    p.resolution = GuardProfile::Resolution::FirstOfSchemeLists;
+    p.resolutionSchemes = {QStringLiteral("https"), QStringLiteral("http")};
+    p.settingSchemes = {QStringLiteral("http"), QStringLiteral("https")};
+    p.settingSchemeLabels = {QStringLiteral("HTTP"), QStringLiteral("HTTPS")};
+    p.unknownName = QStringLiteral("Unknown Browser");
+
+    p.registeredSchemes = {QStringLiteral("http"), QStringLiteral("https")};
+    p.knownIdentifiers = {
+        "com.apple.Safari", "com.google.Chrome", "com.google.Chrome.beta",
+        "com.google.Chrome.dev", "com.google.Chrome.canary", "org.mozilla.firefox",
+        "org.mozilla.firefoxdeveloperedition", "org.mozilla.nightly", "com.microsoft.edgemac",
+        "com.microsoft.edgemac.Beta", "com.microsoft.edgemac.Dev", "com.microsoft.edgemac.Canary",
+        "com.brave.Browser", "com.brave.Browser.beta", "com.brave.Browser.nightly",
+        "com.vivaldi.Vivaldi", "com.vivaldi.Vivaldi.snapshot", "com.operasoftware.Opera",
+        "com.operasoftware.OperaGX", "com.operasoftware.OperaDeveloper",
+        "company.thebrowser.Browser", "org.chromium.Chromium", "com.kagi.kagimacOS",
+        "com.SigmaOS.Sigma", "com.minbrowser.Min"};
+    p.exclusionWords = {"automator", "script editor", "terminal", "xcode", "mail", "notes",
+                        "textedit", "preview", "quicktime", "pages", "keynote", "numbers",
+                        "music", "tv", "books", "news", "stocks", "weather", "calculator",
+                        "calendar"};
+    p.keywords = {"safari", "chrome", "firefox", "edge", "brave", "opera", "vivaldi",
+                  "arc", "browser", "chromium", "orion", "sigma", "min", "kagi"};
+
+    p.telemetryType = QStringLiteral("browser");
+    p.settingsPrefix = QStringLiteral("browser");
+    p.alertType = QStringLiteral("browser_changed");
+    p.alertTitleKey = QStringLiteral("alert_browser_changed_title");
+    p.alertMessageKey = QStringLiteral("alert_browser_changed_message %@ %@");
+    p.logType = QStringLiteral("browser");
+
+    p.firstLaunchLine = QStringLiteral("✨ First launch - defaults set");
+    p.launchedAtLoginLine = QStringLiteral("🚀 Launched at login");
+    p.countersResetLine = QStringLiteral("🔄 Browser counters reset");
+    p.checkingAfterPrefix = QStringLiteral("🔍 Checking after ");
+    p.totalPrefix = QStringLiteral("📊 Total: ");
+    p.setCalledPrefix = QStringLiteral("🔘 setDefaultBrowser called for: ");
+    p.changingFlagLine = QStringLiteral("   ✅ isChangingBrowser = true");
+    p.startingPollingLine = QStringLiteral("🔄 Starting polling");
+    p.pollPrefix = QStringLiteral("📡 Poll ");
+    p.matchLine = QStringLiteral("✅ Match!");
+    p.setToPrefix = QStringLiteral("✅ Browser set to ");
+    p.timeoutLine = QStringLiteral("⏱️ Timeout");
+    p.cancelledLine = QStringLiteral("🛑 User cancelled browser change");
+    return p;
+}
+
+GuardProfile makeEmailProfile()
+{
+    GuardProfile p;
+    p.targetKey = QStringLiteral("targetDefaultEmailClient");
+    p.monitoringEnabledKey = QStringLiteral("emailMonitoringEnabled");
+    p.checkIntervalKey = QStringLiteral("emailCheckInterval");
+    p.snoozeDurationKey = QStringLiteral("emailSnoozeDuration");
+    p.checkOnWakeKey = QStringLiteral("emailCheckOnWake");
+    p.checkOnUnlockKey = QStringLiteral("emailCheckOnUnlock");
+    p.checkOnLoginKey = QStringLiteral("emailCheckOnLogin");
+    p.changeCountKey = QStringLiteral("emailChangeCount");
+    p.lastChangeKey = QStringLiteral("lastEmailChange");
+    p.launchedBeforeKey = QStringLiteral("hasLaunchedBeforeEmail");
+
+    p.resolution = GuardProfile::Resolution::SchemeDefault;
+    p.resolutionSchemes = {QStringLiteral("mailto")};
+    p.settingSchemes = {QStringLiteral("mailto")};
+    p.settingSchemeLabels = {QStringLiteral("mailto")};
+    p.unknownName = QStringLiteral("Unknown Email Client");
+
+    p.registeredSchemes = {QStringLiteral("mailto")};
+    p.knownIdentifiers = {
+        "com.apple.mail", "com.microsoft.Outlook", "com.microsoft.outlook.desktopclient",
+        "org.mozilla.thunderbird", "eu.betterbird.Betterbird", "com.google.Gmail",
+        "com.readdle.smartemail-Mac", "com.freron.MailMate", "com.postbox-inc.postboxapp",
+        "com.airmailapp.airmail-setapp", "it.bloop.airmail2", "com.airmailapp.Airmail5",
+        "com.mailplaneapp.Mailplane", "com.getmailspring.mailspring", "com.canarymail.mac",
+        "com.easilydo.mail.mac", "app.fastmail.JMAP-Demo-App", "com.kiwiforcourt.kiwiformailapp",
+        "com.appsonthemove.mailforgmail", "me.hacx.lettre", "com.tinyspeck.slackmacgap",
+        "com.mailbutler.MailButler", "com.cleanmail.mail", "com.uniboxapp.mac", "com.bloop.Bloop",
+        "io.mimestream.Mimestream", "com.mailbird.Mailbird", "com.polymail.Polymail",
+        "com.nylas.nylas-mail", "com.inboxapp.inbox", "com.newkline.MailTab-for-Gmail",
+        "com.mailplane.Mailplane_3", "com.mailplane.Mailplane_4",
+        "com.microsoft.Office365ServiceV2", "com.tmtapps.emailapp", "com.wavebox.Wavebox",
+        "com.shift.Shift", "com.rambox.Rambox", "com.franz.Franz", "com.electron.mailspring",
+        "net.eagleapp.web"};
+    p.exclusionWords = {"automator", "script editor", "terminal", "xcode", "notes", "textedit",
+                        "preview", "safari", "chrome", "firefox", "edge"};
+    p.keywords = {"mail", "outlook", "thunderbird", "airmail", "spark", "postbox",
+                  "mailmate", "canary", "fastmail", "gmail", "betterbird", "mimestream",
+                  "mailspring", "edison", "kiwi", "lettre", "mailbird", "polymail",
+                  "nylas", "unibox", "bloop", "mailplane", "mailbutler"};
+
+    p.telemetryType = QStringLiteral("email");
+    p.settingsPrefix = QStringLiteral("email");
+    p.alertType = QStringLiteral("email_client_changed");
+    p.alertTitleKey = QStringLiteral("alert_email_changed_title");
+    p.alertMessageKey = QStringLiteral("alert_email_changed_message %@ %@");
+    p.logType = QStringLiteral("email");
+
+    p.firstLaunchLine = QStringLiteral("✨ Email: First launch - defaults set");
+    p.launchedAtLoginLine = QStringLiteral("🚀 Email: Launched at login");
+    p.countersResetLine = QStringLiteral("🔄 Email counters reset");
+    p.checkingAfterPrefix = QStringLiteral("🔍 Email: Checking after ");
+    p.totalPrefix = QStringLiteral("📧 Email: Total: ");
+    p.setCalledPrefix = QStringLiteral("📧 setDefaultEmailClient called for: ");
+    p.changingFlagLine = QStringLiteral("   ✅ isChangingEmailClient = true");
+    p.startingPollingLine = QStringLiteral("🔄 Starting email polling");
+    p.pollPrefix = QStringLiteral("📡 Email Poll ");
+    p.matchLine = QStringLiteral("✅ Email Match!");
+    p.setToPrefix = QStringLiteral("✅ Email client set to ");
+    p.timeoutLine = QStringLiteral("⏱️ Email Timeout");
+    p.cancelledLine = QStringLiteral("🛑 User cancelled email client change");
+    return p;
+}
+
+} // namespace
+
+const GuardProfile &GuardProfile::browser()
+{
+    static const GuardProfile profile = makeBrowserProfile();
+    return profile;
+}
+
+const GuardProfile &GuardProfile::email()
+{
+    static const GuardProfile profile = makeEmailProfile();
+    return profile;
+}

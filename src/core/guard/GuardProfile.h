@@ -1,0 +1,68 @@
+#pragma once
+
+#include <QString>
+#include <QStringList>
+
+// Everything in which the browser guard and the mail guard differ, as data. The guard
+// engine holds all the logic; a profile only names keys, schemes, lists and texts.
+struct GuardProfile {
+    enum class Resolution {
+        FirstOfSchemeLists, // first application listed for each scheme in turn (https, then http)
+        SchemeDefault,      // the scheme's default application directly (mailto)
+    };
+
+    // Settings-store keys.
+    QString targetKey;
+    QString monitoringEnabledKey;
+    QString checkIntervalKey;
+    QString snoozeDurationKey;
+    QString checkOnWakeKey;
+    QString checkOnUnlockKey;
+    QString checkOnLoginKey;
+    QString changeCountKey;
+    QString lastChangeKey;
+    QString launchedBeforeKey;
+
+    // Resolving the current default and setting a new one.
+    Resolution resolution;
+    QStringList resolutionSchemes;
+    QStringList settingSchemes;
+    QStringList settingSchemeLabels; // as the status line names them: "HTTP", "HTTPS", "mailto"
+    QString unknownName;
+
+    // Detecting installed handlers.
+    QStringList registeredSchemes;
+    QStringList knownIdentifiers;
+    QStringList exclusionWords;
+    QStringList keywords;
+
+    // Telemetry names.
+    QString telemetryType;   // "browser" / "email"
+    QString settingsPrefix;  // "browser" / "email" in "browser_check_interval"
+    QString alertType;       // "browser_changed" / "email_client_changed"
+
+    // Text keys of the change alert.
+    QString alertTitleKey;
+    QString alertMessageKey;
+
+    // Change-log kind, "browser" / "email".
+    QString logType;
+
+    // Console lines (and the prefixes that a value follows).
+    QString firstLaunchLine;
+    QString launchedAtLoginLine;
+    QString countersResetLine;
+    QString checkingAfterPrefix;
+    QString totalPrefix;
+    QString setCalledPrefix;
+    QString changingFlagLine;
+    QString startingPollingLine;
+    QString pollPrefix;
+    QString matchLine;
+    QString setToPrefix;
+    QString timeoutLine;
+    QString cancelledLine;
+
+    static const GuardProfile &browser();
+    static const GuardProfile &email();
+};

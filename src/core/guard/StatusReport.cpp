@@ -1,0 +1,41 @@
+#include "core/guard/StatusReport.h"
+
+#include "core/guard/DefaultResolver.h"
+#include "core/guard/GuardProfile.h"
+#include "core/guard/GuardSettings.h"
+#include "core/guard/ProtectionStatus.h"
+
+namespace {
+
+// The record's own stored form, so the report shows exactly what the store holds.
+QByteArray recordJson(const std::optional<HandlerRecord> &record)
+{
+    return record ? record->toJson() : QByteArray("null");
+}
+
+QByteArray side(const GuardProfile &profile, SettingsStore &settings,
+                const HandlerDatabase &handlers)
+{
+    // Only getters are called: nothing is written.
+    const GuardSettings guardSettings(profile, settings);
+    const DefaultResolver resolver(profile, handlers);
+    QList<HandlerRecord> installed;
+    const auto current = resolver.resolve(installed);
+    const auto target = guardSettings.target();
+    const bool isProtected = guardSettings.isProtected();
+    const QString status = Protection::name(Protection::statusOf(current, target, isProtected));
+
+    QByteArray out = "{\"current\":" + recordJson(current);
+    out += ",\"target\":" + recordJson(target);
+    out += ",\"isProtected\":" + QByteArray(isProtected ? "true" : "false");
+    out += ",\"status\":\"" + status.toUtf8() + "\"}";
+    return out;
+}
+
+} // namespace
+
+QByteArray StatusReport::build(SettingsStore &settings, const HandlerDatabase &handlers)
+{
+    return "{\"browser\":" + side(GuardProfile::browser(), settings, handlers)
+           + ",\"email\":" + side(GuardProfile::email(), settings, handlers) + "}\n";
+}

@@ -1,0 +1,13 @@
+#include "core/support/TimerFactory.h"
+
+void TimerFactory::singleShot(std::chrono::milliseconds delay, QObject *context,
+                              std::function<void()> work)
+{
+    Timer *timer = createTimer(context);
+    QObject::connect(timer, &Timer::timeout, context, [timer, work = std::move(work)] {
+        timer->stop();
+        timer->deleteLater();
+        work();
+    });
+    timer->start(delay, false);
+}

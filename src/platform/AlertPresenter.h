@@ -1,0 +1,27 @@
+#pragma once
+
+#include <QString>
+
+#include <functional>
+
+// Shows modal two-button alerts, one at a time, in the order asked for. Dismissing an
+// alert any other way than by its first button (Escape, closing it) is the second answer.
+class AlertPresenter {
+public:
+    enum class Answer { first, second };
+
+    struct Alert {
+        QString title;
+        QString text;
+        QString firstButton;
+        QString secondButton;
+        QString symbolName; // a symbol of the program's symbol table
+    };
+
+    virtual ~AlertPresenter() = default;
+
+    // Queues the alert and returns; `onAnswer` runs on the main thread once it is answered.
+    virtual void present(const Alert &alert, std::function<void(Answer)> onAnswer) = 0;
+    // Whether an alert is on screen now.
+    virtual bool isPresenting() const = 0;
+};

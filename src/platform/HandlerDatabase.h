@@ -1,0 +1,37 @@
+#pragma once
+
+#include <QString>
+#include <QStringList>
+
+#include <optional>
+
+// What the system knows about applications and the URL schemes they handle.
+// An application is addressed by its location (on freedesktop: the absolute path of its
+// desktop entry) or by its identifier (the desktop file id without ".desktop").
+// Every read is made afresh; nothing is cached across calls.
+class HandlerDatabase {
+public:
+    // The facts of one application, read at a location.
+    struct Application {
+        QString identifier;
+        std::optional<QString> name;    // the application's own name, when it declares one
+        std::optional<QString> version; // its short version, when known
+    };
+
+    virtual ~HandlerDatabase() = default;
+
+    // Every application that opens URLs of the scheme ("https", "mailto"), the default first.
+    virtual QStringList applicationsForScheme(const QString &scheme) const = 0;
+    // The application that opens URLs of the scheme, if any.
+    virtual std::optional<QString> defaultApplicationForScheme(const QString &scheme) const = 0;
+    // Where the installed application with this identifier lives, if it is installed.
+    virtual std::optional<QString> locationForIdentifier(const QString &identifier) const = 0;
+    // The application at a location; nothing when no application can be read there.
+    virtual std::optional<Application> applicationAt(const QString &location) const = 0;
+    // The name a file manager would show for the path.
+    virtual QString displayNameAtPath(const QString &path) const = 0;
+
+    // Makes the application with this identifier the default for the scheme. Returns 0 on
+    // success and a non-zero status otherwise. Safe to call from a worker thread.
+    virtual int setDefaultHandler(const QString &scheme, const QString &identifier) = 0;
+};

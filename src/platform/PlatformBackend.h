@@ -1,0 +1,14 @@
+#pragma once
+
+#include "platform/HandlerDatabase.h"
+#include "platform/SingleInstance.h"
+
+#include <memory>
+
+// The one place that picks the platform's implementations; the build links exactly one
+// backend, so callers never name a platform.
+class PlatformBackend {
+public:
+    static std::unique_ptr<HandlerDatabase> createHandlerDatabase();
+    static std::unique_ptr<SingleInstance> createSingleInstance(const QString &appId);
+};

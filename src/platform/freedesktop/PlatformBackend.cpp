@@ -1,0 +1,14 @@
+#include "platform/PlatformBackend.h"
+
+#include "platform/freedesktop/FreedesktopHandlerDatabase.h"
+#include "platform/freedesktop/LockFileSingleInstance.h"
+
+std::unique_ptr<HandlerDatabase> PlatformBackend::createHandlerDatabase()
+{
+    return std::make_unique<FreedesktopHandlerDatabase>();
+}
+
+std::unique_ptr<SingleInstance> PlatformBackend::createSingleInstance(const QString &appId)
+{
+    return std::make_unique<LockFileSingleInstance>(appId);
+}

@@ -1,0 +1,1 @@
+// Anchors the test-support library (its classes are header-only with moc).
