@@ -1,0 +1,140 @@
+#include "platform/freedesktop/DesktopEntry.h"
+
+#include "platform/freedesktop/KeyFileScanner.h"
+
+#include <QFile>
+#include <QFileInfo>
+
+namespace {
+
+const QByteArray entryGroup = QByteArrayLiteral("Desktop Entry");
+
+bool readBoolean(QByteArrayView value)
+{
+    return value == "true" || value == "1";
+}
+
+// The first word of a command line, split as a POSIX shell (and GLib) splits it.
+std::optional<QString> firstShellWord(const QString &line)
+{
+    QString word;
+    bool inWord = false;
+    qsizetype i = 0;
+    const qsizetype n = line.size();
+    while (i < n && line[i].isSpace())
+        ++i;
+    if (i < n && line[i] == u'#')
+        return std::nullopt;
+    for (; i < n; ++i) {
+        const QChar c = line[i];
+        if (c == u'\'') {
+            const qsizetype close = line.indexOf(u'\'', i + 1);
+            if (close < 0)
+                return std::nullopt;
+            word += line.sliced(i + 1, close - i - 1);
+            i = close;
+            inWord = true;
+        } else if (c == u'"') {
+            for (++i;; ++i) {
+                if (i >= n)
+                    return std::nullopt;
+                if (line[i] == u'"')
+                    break;
+                if (line[i] == u'\\' && i + 1 < n && QStringView(u"$`\"\\\n").contains(line[i + 1]))
+                    ++i;
+                word += line[i];
+            }
+            inWord = true;
+        } else if (c == u'\\') {
+            if (i + 1 < n && line[i + 1] != u'\n')
+                word += line[i + 1];
+            ++i;
+            inWord = true;
+        } else if (c.isSpace()) {
+            break;
+        } else {
+            word += c;
+            inWord = true;
+        }
+    }
+    if (!inWord)
+        return std::nullopt;
+    return word;
+}
+
+} // namespace
+
+std::optional<DesktopEntry> DesktopEntry::read(const QString &path)
+{
+    QFile file(path);
+    if (!file.open(QIODevice::ReadOnly))
+        return std::nullopt;
+    return parse(file.readAll());
+}
+
+DesktopEntry DesktopEntry::parse(QByteArrayView content)
+{
+    DesktopEntry entry;
+    KeyFileScanner scanner(content);
+    while (scanner.next()) {
+        if (scanner.group() != entryGroup)
+            continue;
+        const QByteArrayView key = scanner.key();
+        if (key == "Name")
+            entry.m_name = scanner.value();
+        else if (key == "Type")
+            entry.m_type = scanner.value();
+        else if (key == "Hidden")
+            entry.m_hidden = readBoolean(scanner.rawValue());
+        else if (key == "NoDisplay")
+            entry.m_noDisplay = readBoolean(scanner.rawValue());
+        else if (key == "TryExec")
+            entry.m_tryExec = scanner.value();
+        else if (key == "Exec")
+            entry.m_exec = scanner.value();
+        else if (key == "MimeType")
+            entry.m_mimeTypes = scanner.listValue();
+        else if (key == "Categories")
+            entry.m_categories = scanner.listValue();
+    }
+    entry.m_valid = scanner.valid() && scanner.firstGroup() == entryGroup;
+    if (!entry.m_valid)
+        return DesktopEntry();
+    return entry;
+}
+
+std::optional<QString> DesktopEntry::execProgram() const
+{
+    return firstShellWord(m_exec);
+}
+
+bool DesktopEntry::isLaunchable() const
+{
+    if (!m_valid || m_type != QLatin1String("Application"))
+        return false;
+    if (!m_tryExec.isEmpty() && !programExists(m_tryExec))
+        return false;
+    if (m_exec.isEmpty())
+        return true;
+    const auto program = execProgram();
+    return program && programExists(*program);
+}
+
+bool DesktopEntry::programExists(const QString &program)
+{
+    const auto isExecutableFile = [](const QString &path) {
+        const QFileInfo info(path);
+        return info.isFile() && info.isExecutable();
+    };
+    if (program.contains(u'/'))
+        return isExecutableFile(program);
+    QString searchPath = qEnvironmentVariable("PATH");
+    if (!qEnvironmentVariableIsSet("PATH"))
+        searchPath = QStringLiteral("/bin:/usr/bin:.");
+    for (const QString &dir : searchPath.split(u':')) {
+        const QString base = dir.isEmpty() ? QStringLiteral(".") : dir;
+        if (isExecutableFile(base + u'/' + program))
+            return true;
+    }
+    return false;
+}

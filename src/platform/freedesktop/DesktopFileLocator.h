@@ -1,0 +1,37 @@
+#pragma once
+
+#include "platform/freedesktop/DesktopEntry.h"
+
+#include <QString>
+#include <QStringList>
+
+#include <optional>
+
+// Maps desktop file ids ("firefox-esr.desktop", "kde4-foo.desktop") to files in the
+// applications directories and back. A file in a subdirectory takes the subdirectory path as
+// a prefix with '-' for '/': applications/kde4/foo.desktop has the id kde4-foo.desktop.
+class DesktopFileLocator {
+public:
+    struct Resolved {
+        QString path;
+        DesktopEntry entry;
+    };
+
+    explicit DesktopFileLocator(QStringList applicationsDirs);
+
+    const QStringList &directories() const { return m_dirs; }
+
+    // The file with this id in one directory, or an empty string. Where both a plain file and
+    // one in a subdirectory carry the id, the plain file is taken.
+    static QString fileInDirectory(const QString &dir, const QString &desktopId);
+    // Whether a directory earlier than the one at `index` has a file with this id.
+    bool isShadowed(const QString &desktopId, qsizetype index) const;
+    // The file GLib uses for the id: the first directory's file with it that is launchable
+    // (an unusable override in a higher directory lets a lower one through, as in GLib).
+    std::optional<Resolved> resolve(const QString &desktopId) const;
+    // The id of a file inside one of the directories; empty when it lies outside them all.
+    QString desktopIdOf(const QString &filePath) const;
+
+private:
+    QStringList m_dirs;
+};

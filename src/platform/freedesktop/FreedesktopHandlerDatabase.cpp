@@ -1,0 +1,187 @@
+#include "platform/freedesktop/FreedesktopHandlerDatabase.h"
+
+#include "platform/freedesktop/AppStreamVersion.h"
+#include "platform/freedesktop/DesktopFileLocator.h"
+#include "platform/freedesktop/MimeAppsListEditor.h"
+#include "platform/freedesktop/MimeAppsListWriter.h"
+#include "platform/freedesktop/MimeAssociations.h"
+#include "platform/freedesktop/XdgDirectories.h"
+
+#include <QFileInfo>
+#include <QMutex>
+
+namespace {
+
+const QString suffix = QStringLiteral(".desktop");
+const QString defaultGroup = QStringLiteral("Default Applications");
+const QString addedGroup = QStringLiteral("Added Associations");
+
+// Writers in this process take turns; each write replaces its file atomically, so readers
+// never need the lock.
+QMutex writeLock;
+
+DesktopFileLocator currentLocator()
+{
+    return DesktopFileLocator(XdgDirectories::applicationsDirs());
+}
+
+MimeAssociations associationsFor(const QString &mimeType)
+{
+    return MimeAssociations::load(mimeType, XdgDirectories::mimeappsPlaces(), XdgDirectories::currentDesktops());
+}
+
+QString stripSuffix(QString desktopId)
+{
+    if (desktopId.endsWith(suffix))
+        desktopId.chop(suffix.size());
+    return desktopId;
+}
+
+bool isIdentifier(const QString &identifier)
+{
+    return !identifier.isEmpty() && !identifier.contains(u'/') && !identifier.startsWith(u'.')
+           && !identifier.contains(u';') && !identifier.contains(u'\n') && !identifier.contains(u'\r');
+}
+
+QByteArray setDefaultIn(const QByteArray &content, const QString &mimeType, const QString &desktopId)
+{
+    MimeAppsListEditor editor(content);
+    editor.setValue(defaultGroup, mimeType, desktopId);
+    QStringList added = editor.values(addedGroup, mimeType);
+    added.removeAll(desktopId);
+    added.prepend(desktopId);
+    editor.setValue(addedGroup, mimeType, added.join(u';') + u';');
+    return editor.content();
+}
+
+QByteArray dropContraryDefault(const QByteArray &content, const QString &mimeType, const QString &desktopId)
+{
+    MimeAppsListEditor editor(content);
+    const QStringList defaults = editor.values(defaultGroup, mimeType);
+    if (!defaults.isEmpty() && defaults.first() != desktopId)
+        editor.removeKey(defaultGroup, mimeType);
+    return editor.content();
+}
+
+} // namespace
+
+QString FreedesktopHandlerDatabase::mimeTypeForScheme(const QString &scheme)
+{
+    if (scheme.isEmpty() || !(scheme.front().isLetter() && scheme.front().unicode() < 128))
+        return {};
+    for (const QChar c : scheme) {
+        const bool allowed = c.unicode() < 128 && (c.isLetterOrNumber() || c == u'+' || c == u'-' || c == u'.');
+        if (!allowed)
+            return {};
+    }
+    return QStringLiteral("x-scheme-handler/") + scheme.toLower();
+}
+
+QStringList FreedesktopHandlerDatabase::applicationsForScheme(const QString &scheme) const
+{
+    const QString mimeType = mimeTypeForScheme(scheme);
+    if (mimeType.isEmpty())
+        return {};
+    const DesktopFileLocator locator = currentLocator();
+    const MimeAssociations associations = associationsFor(mimeType);
+    QStringList locations;
+    for (const QString &id : associations.explicitDefaults()) {
+        if (const auto resolved = locator.resolve(id)) {
+            locations.append(resolved->path);
+            break;
+        }
+    }
+    // GLib lists an association only when its entry is not Hidden, though a Hidden entry
+    // may still be the default (above, or the first association below).
+    bool defaultFound = !locations.isEmpty();
+    for (const QString &id : associations.associated(locator)) {
+        const auto resolved = locator.resolve(id);
+        if (!resolved || locations.contains(resolved->path))
+            continue;
+        if (!defaultFound) {
+            defaultFound = true;
+            locations.append(resolved->path);
+        } else if (!resolved->entry.hidden()) {
+            locations.append(resolved->path);
+        }
+    }
+    return locations;
+}
+
+std::optional<QString> FreedesktopHandlerDatabase::defaultApplicationForScheme(const QString &scheme) const
+{
+    const QString mimeType = mimeTypeForScheme(scheme);
+    if (mimeType.isEmpty())
+        return std::nullopt;
+    const DesktopFileLocator locator = currentLocator();
+    const MimeAssociations associations = associationsFor(mimeType);
+    for (const QString &id : associations.explicitDefaults()) {
+        if (const auto resolved = locator.resolve(id))
+            return resolved->path;
+    }
+    for (const QString &id : associations.associated(locator)) {
+        if (const auto resolved = locator.resolve(id))
+            return resolved->path;
+    }
+    return std::nullopt;
+}
+
+std::optional<QString> FreedesktopHandlerDatabase::locationForIdentifier(const QString &identifier) const
+{
+    if (!isIdentifier(identifier))
+        return std::nullopt;
+    // A Hidden entry counts: GLib still opens URLs with it when a list names it as default.
+    const auto resolved = currentLocator().resolve(identifier + suffix);
+    if (!resolved)
+        return std::nullopt;
+    return resolved->path;
+}
+
+std::optional<HandlerDatabase::Application> FreedesktopHandlerDatabase::applicationAt(const QString &location) const
+{
+    const auto entry = DesktopEntry::read(location);
+    if (!entry || !entry->isValid())
+        return std::nullopt;
+    QString desktopId = currentLocator().desktopIdOf(location);
+    if (desktopId.isEmpty())
+        desktopId = QFileInfo(location).fileName();
+    const QString identifier = stripSuffix(desktopId);
+    return Application{identifier, entry->name(), AppStreamVersion::find(identifier, XdgDirectories::allDataDirs())};
+}
+
+QString FreedesktopHandlerDatabase::displayNameAtPath(const QString &path) const
+{
+    return stripSuffix(QFileInfo(path).fileName());
+}
+
+// GLib only makes an application it can load the default, so an id without a launchable
+// entry is refused (NotInstalled) rather than written into the list, where every reader
+// would skip it anyway.
+int FreedesktopHandlerDatabase::setDefaultHandler(const QString &scheme, const QString &identifier)
+{
+    const QString mimeType = mimeTypeForScheme(scheme);
+    if (mimeType.isEmpty() || !isIdentifier(identifier))
+        return InvalidArgument;
+    const QString desktopId = identifier + suffix;
+    if (!currentLocator().resolve(desktopId))
+        return NotInstalled;
+
+    const QMutexLocker locker(&writeLock);
+    const QString configHome = XdgDirectories::configHome();
+    const int status = MimeAppsListWriter::update(configHome + QStringLiteral("/mimeapps.list"), [&](const QByteArray &content) {
+        return setDefaultIn(content, mimeType, desktopId);
+    });
+    if (status != Success)
+        return status;
+    // The desktop-specific lists of the same directory are read first; a default there for
+    // another application would hide the one just written.
+    for (const QString &desktop : XdgDirectories::currentDesktops()) {
+        const QString path = configHome + u'/' + desktop + QStringLiteral("-mimeapps.list");
+        const int shadowStatus = MimeAppsListWriter::update(
+            path, [&](const QByteArray &content) { return dropContraryDefault(content, mimeType, desktopId); },
+            false);
+        if (shadowStatus != Success)
+            return shadowStatus;
+    }
+    return Success;
+}

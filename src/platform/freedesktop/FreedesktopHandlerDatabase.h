@@ -1,0 +1,30 @@
+#pragma once
+
+#include "platform/HandlerDatabase.h"
+
+// The handler database of freedesktop desktops, read and written the way GLib (GIO) reads
+// and writes it: desktop entries in the XDG applications directories, mimeapps.list files
+// and mimeinfo.cache, with x-scheme-handler/<scheme> as the MIME type of a URL scheme.
+// Identifiers are desktop file ids without ".desktop"; locations are desktop entry paths.
+class FreedesktopHandlerDatabase : public HandlerDatabase {
+public:
+    // Non-zero results of setDefaultHandler (errno values, so they read well in a log).
+    enum Status {
+        Success = 0,
+        NotInstalled = 2,      // ENOENT: no launchable entry with that id
+        NotWritable = 13,      // EACCES: the list's mode has no owner write bit
+        WriteFailed = 5,       // EIO
+        InvalidArgument = 22,  // EINVAL: not a URL scheme, or not a desktop file id
+        ReadOnlyFileSystem = 30, // EROFS
+    };
+
+    QStringList applicationsForScheme(const QString &scheme) const override;
+    std::optional<QString> defaultApplicationForScheme(const QString &scheme) const override;
+    std::optional<QString> locationForIdentifier(const QString &identifier) const override;
+    std::optional<Application> applicationAt(const QString &location) const override;
+    QString displayNameAtPath(const QString &path) const override;
+    int setDefaultHandler(const QString &scheme, const QString &identifier) override;
+
+    // "x-scheme-handler/<scheme>" for a valid scheme (lower-cased), else an empty string.
+    static QString mimeTypeForScheme(const QString &scheme);
+};

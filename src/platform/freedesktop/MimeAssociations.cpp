@@ -1,0 +1,78 @@
+#include "platform/freedesktop/MimeAssociations.h"
+
+#include "platform/freedesktop/DesktopFileLocator.h"
+#include "platform/freedesktop/MimeAppsList.h"
+
+namespace {
+
+// Appends what is neither blacklisted nor already there.
+void expand(QStringList &list, const QStringList &toAdd, const QStringList &blacklist = {})
+{
+    for (const QString &id : toAdd) {
+        if (!blacklist.contains(id) && !list.contains(id))
+            list.append(id);
+    }
+}
+
+} // namespace
+
+MimeAssociations MimeAssociations::load(const QString &mimeType, const QList<XdgDirectories::Place> &places,
+                                        const QStringList &desktops)
+{
+    MimeAssociations result;
+    qsizetype applicationsIndex = 0;
+    for (const XdgDirectories::Place &place : places) {
+        PlaceLists lists;
+        // A desktop-specific list may only name defaults; GLib ignores its other groups.
+        for (const QString &desktop : desktops)
+            expand(lists.defaults, MimeAppsList::read(place.path + u'/' + desktop + u"-mimeapps.list", mimeType).defaults());
+        const MimeAppsList main = MimeAppsList::read(place.path + u"/mimeapps.list", mimeType);
+        expand(lists.additions, main.added(), lists.removals);
+        expand(lists.removals, main.removed(), lists.additions);
+        expand(lists.defaults, main.defaults());
+        if (place.holdsApplications) {
+            // defaults.list is an old GLib-only file that still counts for defaults.
+            expand(lists.defaults, MimeAppsList::read(place.path + u"/defaults.list", mimeType).defaults());
+            expand(lists.additions, MimeAppsList::read(place.path + u"/mimeinfo.cache", mimeType).cached(),
+                   lists.removals);
+            lists.applicationsIndex = applicationsIndex++;
+        }
+        result.m_places.append(lists);
+    }
+    return result;
+}
+
+QStringList MimeAssociations::explicitDefaults() const
+{
+    QStringList defaults;
+    for (const PlaceLists &lists : m_places)
+        expand(defaults, lists.defaults);
+    return defaults;
+}
+
+QStringList MimeAssociations::associated(const DesktopFileLocator &locator) const
+{
+    QStringList hits;
+    QStringList blacklist;
+    collect(locator, hits, blacklist);
+    return hits;
+}
+
+void MimeAssociations::collect(const DesktopFileLocator &locator, QStringList &hits, QStringList &blacklist) const
+{
+    for (const PlaceLists &lists : m_places) {
+        // An application directory speaks only for ids that no higher directory provides.
+        const auto counts = [&](const QString &id) {
+            return !blacklist.contains(id) && !hits.contains(id)
+                   && (lists.applicationsIndex < 0 || !locator.isShadowed(id, lists.applicationsIndex));
+        };
+        for (const QString &id : lists.additions) {
+            if (counts(id))
+                hits.append(id);
+        }
+        for (const QString &id : lists.removals) {
+            if (counts(id))
+                blacklist.append(id);
+        }
+    }
+}
