@@ -3,7 +3,9 @@
 class AlertPresenter;
 class Clock;
 class HandlerDatabase;
+class LogManager;
 class SettingsStore;
+class SystemEvents;
 class TimerFactory;
 
 // The services a guard works with, wired once at start-up (or by a test).
@@ -13,6 +15,8 @@ struct GuardEnvironment {
     Clock *clock = nullptr;
     TimerFactory *timers = nullptr;
     AlertPresenter *alerts = nullptr;
+    LogManager *log = nullptr;
+    SystemEvents *events = nullptr; // may be absent: no event then runs a check
     // The program was started by the login mechanism (the autostart entry's --login).
     bool launchedAtLogin = false;
 };

@@ -1,5 +1,7 @@
 #include "core/guard/GuardProfile.h"
 
+#include "core/changelog/LogManager.h"
+
 namespace {
 
 GuardProfile makeBrowserProfile()
@@ -45,7 +47,7 @@ GuardProfile makeBrowserProfile()
     p.alertType = QStringLiteral("browser_changed");
     p.alertTitleKey = QStringLiteral("alert_browser_changed_title");
     p.alertMessageKey = QStringLiteral("alert_browser_changed_message %@ %@");
-    p.logType = QStringLiteral("browser");
+    p.logChange = &LogManager::logBrowserChange;
 
     p.firstLaunchLine = QStringLiteral("✨ First launch - defaults set");
     p.launchedAtLoginLine = QStringLiteral("🚀 Launched at login");
@@ -111,7 +113,7 @@ GuardProfile makeEmailProfile()
     p.alertType = QStringLiteral("email_client_changed");
     p.alertTitleKey = QStringLiteral("alert_email_changed_title");
     p.alertMessageKey = QStringLiteral("alert_email_changed_message %@ %@");
-    p.logType = QStringLiteral("email");
+    p.logChange = &LogManager::logEmailChange;
 
     p.firstLaunchLine = QStringLiteral("✨ Email: First launch - defaults set");
     p.launchedAtLoginLine = QStringLiteral("🚀 Email: Launched at login");

@@ -3,6 +3,8 @@
 #include <QString>
 #include <QStringList>
 
+class LogManager;
+
 // Everything in which the browser guard and the mail guard differ, as data. The guard
 // engine holds all the logic; a profile only names keys, schemes, lists and texts.
 struct GuardProfile {
@@ -45,8 +47,8 @@ struct GuardProfile {
     QString alertTitleKey;
     QString alertMessageKey;
 
-    // Change-log kind, "browser" / "email".
-    QString logType;
+    // How a change is written to the change log.
+    void (LogManager::*logChange)(const QString &from, const QString &to);
 
     // Console lines (and the prefixes that a value follows).
     QString firstLaunchLine;

@@ -1,9 +1,11 @@
 #include "core/guard/HandlerGuard.h"
 
+#include "core/guard/HandlerDetector.h"
 #include "core/support/Clock.h"
 #include "core/support/Console.h"
 #include "core/support/Timer.h"
 #include "core/support/TimerFactory.h"
+#include "platform/SystemEvents.h"
 
 #include <chrono>
 
@@ -187,8 +189,34 @@ void HandlerGuard::setSnoozed(bool snoozed)
 
 // --- parts that come with detection, monitoring, events and telemetry -------------------------
 
-void HandlerGuard::detectInstalled() {}
-void HandlerGuard::setupSystemEventObservers() {}
+void HandlerGuard::detectInstalled()
+{
+    setInstalled(HandlerDetector(m_profile, *m_env.handlers).detect());
+}
+
+void HandlerGuard::setupSystemEventObservers()
+{
+    if (!m_env.events)
+        return;
+    // The switches are read when an event arrives, so they take effect at once.
+    connect(m_env.events, &SystemEvents::didWake, this, [this] {
+        if (checkOnWake())
+            handleSystemEvent(QStringLiteral("wake"));
+    });
+    connect(m_env.events, &SystemEvents::screenUnlocked, this, [this] {
+        if (checkOnUnlock())
+            handleSystemEvent(QStringLiteral("unlock"));
+    });
+}
+
+void HandlerGuard::handleSystemEvent(const QString &type)
+{
+    if (m_snoozeUntil && m_env.clock->now() < *m_snoozeUntil)
+        return;
+    Console::line(m_profile.checkingAfterPrefix + type);
+    check();
+}
+
 bool HandlerGuard::wasLaunchedAtLogin() const { return m_env.launchedAtLogin; }
 void HandlerGuard::startMonitoring() {}
 void HandlerGuard::stopMonitoring() {}

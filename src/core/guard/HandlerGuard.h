@@ -73,6 +73,7 @@ private:
     void setDefaultsIfNeeded();
     void detectInstalled();
     void setupSystemEventObservers();
+    void handleSystemEvent(const QString &type);
     bool wasLaunchedAtLogin() const;
     void startMonitoring();
     void stopMonitoring();
