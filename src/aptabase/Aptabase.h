@@ -1,0 +1,66 @@
+#pragma once
+
+#include "aptabase/AnyCodableValue.h"
+#include "aptabase/AptabaseClient.h"
+#include "aptabase/EnvironmentInfo.h"
+#include "aptabase/InitOptions.h"
+#include "aptabase/Value.h"
+
+#include <QMap>
+#include <QPointer>
+#include <QString>
+#include <QVariantMap>
+
+#include <optional>
+
+class QNetworkAccessManager;
+
+// The public face of the analytics client. It places an app key in its region, refuses a key
+// it cannot place (every later call then falls silent), and checks the properties of events.
+// The application calls startPolling() when it becomes active and stopPolling() when it is
+// about to quit; until the first startPolling() events only wait in the queue.
+class Aptabase
+{
+public:
+    static Aptabase &shared();
+
+    explicit Aptabase(EnvironmentInfo env = EnvironmentInfo::current());
+    ~Aptabase();
+    Aptabase(const Aptabase &) = delete;
+    Aptabase &operator=(const Aptabase &) = delete;
+
+    void initialize(const QString &appKey);
+    void initialize(const QString &appKey, const std::optional<InitOptions> &with);
+    void initialize(const QString &appKey, const InitOptions &options);
+
+    void trackEvent(const QString &eventName, const ValueProps &with);
+    void trackEvent(const QString &eventName, const QVariantMap &with = {});
+    // Starts a flush and returns at once.
+    void flush();
+
+    void startPolling();
+    void stopPolling();
+
+    // Values are matched by their exact type, in this order: integer, double, string, float,
+    // Boolean. None (and a line) when a value is of any other kind: the event is dropped.
+    static std::optional<CodableProps> toCodableProps(const QVariantMap &from);
+
+    // Used by the next initialize(); both default to the client's own.
+    void setTransport(QNetworkAccessManager *session) { m_session = session; }
+    void setClock(AptabaseClient::Clock clock) { m_clock = std::move(clock); }
+
+    // The core, or none while tracking is off.
+    AptabaseClient *client() const { return m_client; }
+    const EnvironmentInfo &env() const { return m_env; }
+
+private:
+    void enqueueEvent(const QString &eventName, const CodableProps &with);
+    std::optional<QString> getBaseUrl(const QString &region,
+                                      const std::optional<QString> &host) const;
+
+    EnvironmentInfo m_env;
+    AptabaseClient *m_client = nullptr;
+    QMap<QString, QString> m_hosts;
+    QPointer<QNetworkAccessManager> m_session;
+    AptabaseClient::Clock m_clock;
+};

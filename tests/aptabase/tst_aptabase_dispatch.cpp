@@ -1,0 +1,264 @@
+#include "CapturedLines.h"
+#include "LoopbackIngestion.h"
+
+#include "aptabase/AptabaseClient.h"
+#include "aptabase/EventDispatcher.h"
+
+#include <QTest>
+
+#include <limits>
+#include <memory>
+
+namespace {
+
+const QString appKey = QStringLiteral("A-SH-4817305526");
+
+std::unique_ptr<AptabaseClient> clientFor(const QString &baseUrl, double flushInterval = 3600,
+                                          AptabaseClient::Clock clock = {})
+{
+    return std::make_unique<AptabaseClient>(
+        appKey, baseUrl, EnvironmentInfo::current(),
+        InitOptions(baseUrl, flushInterval, TrackingMode::readFromEnvironment()), nullptr,
+        std::move(clock));
+}
+
+void track(AptabaseClient &client, int from, int to)
+{
+    for (int i = from; i < to; ++i)
+        client.trackEvent(QStringLiteral("e%1").arg(i));
+}
+
+QStringList names(int from, int to)
+{
+    QStringList result;
+    for (int i = from; i < to; ++i)
+        result << QStringLiteral("e%1").arg(i);
+    return result;
+}
+
+bool flushAndWait(AptabaseClient &client)
+{
+    bool done = false;
+    client.flush([&done] { done = true; });
+    return QTest::qWaitFor([&done] { return done; });
+}
+
+} // namespace
+
+class TestAptabaseDispatch : public QObject
+{
+    Q_OBJECT
+private slots:
+    void batchesOfAtMost25OldestFirst()
+    {
+        LoopbackIngestion server;
+        QVERIFY(server.listen());
+        auto client = clientFor(server.baseUrl());
+        track(*client, 0, 26);
+        QVERIFY(flushAndWait(*client));
+
+        QCOMPARE(server.requests.size(), 2);
+        QCOMPARE(server.requests[0].eventNames(), names(0, 25));
+        QCOMPARE(server.requests[1].eventNames(), names(25, 26));
+        const EnvironmentInfo env = EnvironmentInfo::current();
+        if (qEnvironmentVariable("LC_ALL").startsWith("de_DE"))
+            QCOMPARE(env.locale, "de"); // the bare language, as ctest runs this test
+        for (const auto &request : server.requests) {
+            QCOMPARE(request.method, "POST");
+            QCOMPARE(request.path, "/api/v0/events");
+            QCOMPARE(request.headers.value("content-type"), "application/json");
+            QCOMPARE(request.headers.value("app-key"), appKey.toUtf8());
+            QCOMPARE(request.headers.value("user-agent"),
+                     QString("Linux/" + env.osVersion + " " + env.locale).trimmed().toUtf8());
+        }
+        QCOMPARE(server.problems, QStringList());
+        QCOMPARE(client->dispatcher().pendingCount(), 0);
+    }
+
+    void clientErrorDropsTheBatch()
+    {
+        LoopbackIngestion server;
+        QVERIFY(server.listen());
+        server.script({{404, "No such app"}});
+        CapturedLines captured;
+        auto client = clientFor(server.baseUrl());
+        track(*client, 0, 3);
+        QVERIFY(flushAndWait(*client));
+
+        QCOMPARE(captured.lines,
+                 QStringList{"\"Aptabase: Failed to send 3 events because of 404 No such app. "
+                             "Will not retry.\""});
+        QCOMPARE(client->dispatcher().pendingCount(), 0);
+        QVERIFY(flushAndWait(*client));
+        QCOMPARE(server.requests.size(), 1);
+    }
+
+    void serverErrorPutsTheBatchBack()
+    {
+        LoopbackIngestion server;
+        QVERIFY(server.listen());
+        server.script({{500, "down \"for\" now"}});
+        CapturedLines captured;
+        auto client = clientFor(server.baseUrl());
+        track(*client, 0, 2);
+        QVERIFY(flushAndWait(*client));
+
+        QCOMPARE(captured.lines,
+                 QStringList{"\"Aptabase: Failed to send 2 events. Reason: Error "
+                             "Domain=AptabaseError Code=500 \\\"(null)\\\" UserInfo={reason=500 "
+                             "down \\\"for\\\" now}\""});
+        QCOMPARE(client->dispatcher().pendingCount(), 2);
+        QVERIFY(flushAndWait(*client));
+        QCOMPARE(server.requests.size(), 2);
+        QCOMPARE(server.requests[1].events(), server.requests[0].events());
+        QCOMPARE(client->dispatcher().pendingCount(), 0);
+    }
+
+    void refusedConnectionPutsTheBatchBack()
+    {
+        LoopbackIngestion server;
+        QVERIFY(server.listen());
+        const quint16 port = server.port();
+        server.close();
+        CapturedLines captured;
+        auto client = clientFor(server.baseUrl());
+        track(*client, 0, 1);
+        QVERIFY(flushAndWait(*client));
+
+        QCOMPARE(captured.lines.size(), 1);
+        QVERIFY2(captured.lines[0].startsWith("\"Aptabase: Failed to send 1 events. Reason: "),
+                 qPrintable(captured.lines[0]));
+        QCOMPARE(client->dispatcher().pendingCount(), 1);
+        QVERIFY(server.listen(port));
+        QVERIFY(flushAndWait(*client));
+        QCOMPARE(server.requests.size(), 1);
+        QCOMPARE(server.requests[0].eventNames(), names(0, 1));
+    }
+
+    void onlyTheFailedBatchOfAFlushReturns()
+    {
+        LoopbackIngestion server;
+        QVERIFY(server.listen());
+        server.script({{500, {}}, {200, {}}});
+        CapturedLines captured;
+        auto client = clientFor(server.baseUrl());
+        track(*client, 0, 30);
+        QVERIFY(flushAndWait(*client));
+        QCOMPARE(server.requests.size(), 2);
+        QCOMPARE(server.requests[1].eventNames(), names(25, 30));
+        QCOMPARE(client->dispatcher().pendingCount(), 25);
+
+        QVERIFY(flushAndWait(*client));
+        QCOMPARE(server.requests.size(), 3);
+        QCOMPARE(server.requests[2].eventNames(), names(0, 25));
+    }
+
+    void unencodableBatchStaysQueued()
+    {
+        LoopbackIngestion server;
+        QVERIFY(server.listen());
+        CapturedLines captured;
+        auto client = clientFor(server.baseUrl());
+        client->trackEvent("nan", {{"x", AnyCodableValue::doubleValue(
+                                             std::numeric_limits<double>::quiet_NaN())}});
+        QVERIFY(flushAndWait(*client));
+        QVERIFY(flushAndWait(*client));
+        QCOMPARE(captured.lines.size(), 2);
+        QVERIFY(captured.lines[0].startsWith("\"Aptabase: Failed to send 1 events. Reason: "));
+        QCOMPARE(client->dispatcher().pendingCount(), 1);
+        QCOMPARE(server.requests.size(), 0);
+    }
+
+    void eventsWaitForPollingAndStopFlushesOnce()
+    {
+        LoopbackIngestion server;
+        QVERIFY(server.listen());
+        auto client = clientFor(server.baseUrl(), 0.02);
+        track(*client, 0, 1);
+        QTest::qWait(150);
+        QCOMPARE(server.requests.size(), 0);
+
+        client->startPolling(); // an activation flushes at once, then every tick
+        QVERIFY(client->isPolling());
+        QTRY_COMPARE(server.requests.size(), 1);
+        track(*client, 1, 2);
+        QTRY_COMPARE(server.requests.size(), 2);
+
+        track(*client, 2, 3);
+        client->stopPolling();
+        QVERIFY(!client->isPolling());
+        QTRY_COMPARE(server.requests.size(), 3);
+        track(*client, 3, 4);
+        QTest::qWait(150);
+        QCOMPARE(server.requests.size(), 3);
+        QCOMPARE(server.requests[2].eventNames(), names(2, 3));
+    }
+
+    void tickDuringATimerFlushIsSkipped()
+    {
+        LoopbackIngestion server;
+        QVERIFY(server.listen());
+        auto client = clientFor(server.baseUrl(), 0.02);
+        client->startPolling();
+        QTest::qWait(60); // the activation flush and some ticks find nothing to send
+        QCOMPARE(server.requests.size(), 0);
+
+        server.hold();
+        track(*client, 0, 1);
+        QTRY_COMPARE(server.requests.size(), 1);
+        track(*client, 1, 2);
+        QTest::qWait(150);
+        QCOMPARE(server.requests.size(), 1);
+
+        server.release(); // the running flush picks up what arrived meanwhile
+        QTRY_COMPARE(server.requests.size(), 2);
+        QCOMPARE(server.requests[1].eventNames(), names(1, 2));
+        QCOMPARE(server.mostOpenRequests, 1);
+    }
+
+    void sessionRenewsAfterMoreThanAnHourOfSilence()
+    {
+        LoopbackIngestion server;
+        QVERIFY(server.listen());
+        server.validateTimestamps = false;
+        const QDateTime start = QDateTime::fromSecsSinceEpoch(1700000000, Qt::UTC);
+        QDateTime now = start;
+        auto client = clientFor(server.baseUrl(), 3600, [&now] { return now; });
+        const QString first = client->sessionId();
+        QCOMPARE(first.size(), 18);
+        QVERIFY(first.startsWith("1700000000"));
+
+        // Gaps of 3000, 3000 and exactly 3600 seconds keep the session; 3600.001 does not.
+        for (qint64 offsetMs : {0LL, 3000000LL, 6000000LL, 9600000LL, 13200001LL}) {
+            now = start.addMSecs(offsetMs);
+            track(*client, 0, 1);
+        }
+        const QString second = client->sessionId();
+        QVERIFY(second != first);
+        QVERIFY(second.startsWith(QString::number(now.toSecsSinceEpoch())));
+
+        QVERIFY(flushAndWait(*client));
+        QStringList sent;
+        for (const QJsonValue &event : server.requests.value(0).events())
+            sent << event["sessionId"].toString();
+        QCOMPARE(sent, (QStringList{first, first, first, first, second}));
+        QCOMPARE(server.requests[0].events().last()["timestamp"].toString(),
+                 QString("2023-11-15T01:53:20Z"));
+    }
+
+    void flushIntervalFollowsBuildUnlessGiven()
+    {
+        EnvironmentInfo env;
+        for (bool debug : {true, false}) {
+            env.isDebug = debug;
+            const AptabaseClient byBuild(appKey, "http://127.0.0.1:9", env, std::nullopt);
+            QCOMPARE(byBuild.flushInterval(), debug ? 2.0 : 60.0);
+            const AptabaseClient given(appKey, "http://127.0.0.1:9", env,
+                                       InitOptions({}, 7.5, TrackingMode::asRelease()));
+            QCOMPARE(given.flushInterval(), 7.5);
+        }
+    }
+};
+
+QTEST_GUILESS_MAIN(TestAptabaseDispatch)
+#include "tst_aptabase_dispatch.moc"

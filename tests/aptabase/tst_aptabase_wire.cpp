@@ -1,0 +1,127 @@
+#include "aptabase/ConcurrentQueue.h"
+#include "aptabase/DebugPrint.h"
+#include "aptabase/EnvironmentInfo.h"
+#include "aptabase/Event.h"
+
+#include <QTemporaryDir>
+#include <QTest>
+#include <QThread>
+#include <QTimeZone>
+
+class TestAptabaseWire : public QObject
+{
+    Q_OBJECT
+private slots:
+    void osVersionHasThreeIntegers_data()
+    {
+        QTest::addColumn<QString>("product");
+        QTest::addColumn<QString>("padded");
+        QTest::newRow("major only") << "12" << "12.0.0";
+        QTest::newRow("leading zero") << "22.04" << "22.4.0";
+        QTest::newRow("four parts") << "1.2.3.4" << "1.2.3";
+        QTest::newRow("not a number") << "n/a" << "0.0.0";
+        QTest::newRow("empty") << "" << "0.0.0";
+    }
+
+    void osVersionHasThreeIntegers()
+    {
+        QFETCH(QString, product);
+        QFETCH(QString, padded);
+        QCOMPARE(EnvironmentInfo::paddedVersion(product), padded);
+    }
+
+    void deviceModelFallsBackInOrder()
+    {
+        QTemporaryDir dir;
+        const QString dmi = dir.filePath("product_name");
+        const QString tree = dir.filePath("model");
+        const auto write = [](const QString &path, const QByteArray &bytes) {
+            QFile file(path);
+            QVERIFY(file.open(QIODevice::WriteOnly | QIODevice::Truncate));
+            file.write(bytes);
+        };
+        qunsetenv("SIMULATOR_MODEL_IDENTIFIER");
+        const QString machine = EnvironmentInfo::deviceModelFrom(dmi, tree);
+        QVERIFY(!machine.isEmpty()); // neither file exists: uname's machine
+
+        write(tree, QByteArray("Raspberry Pi 4 Model B Rev 1.4\0", 31));
+        QCOMPARE(EnvironmentInfo::deviceModelFrom(dmi, tree), "Raspberry Pi 4 Model B Rev 1.4");
+        write(dmi, "\n");
+        QCOMPARE(EnvironmentInfo::deviceModelFrom(dmi, tree), "Raspberry Pi 4 Model B Rev 1.4");
+        write(dmi, "Latitude 7440\n");
+        QCOMPARE(EnvironmentInfo::deviceModelFrom(dmi, tree), "Latitude 7440");
+
+        qputenv("SIMULATOR_MODEL_IDENTIFIER", "Sim1,1");
+        QCOMPARE(EnvironmentInfo::deviceModelFrom(dir.filePath("x"), dir.filePath("y")), "Sim1,1");
+        qunsetenv("SIMULATOR_MODEL_IDENTIFIER");
+    }
+
+    void timestampIsUtcInWholeSeconds()
+    {
+        const QDateTime berlin(QDate(2024, 3, 10), QTime(23, 59, 59, 999),
+                               QTimeZone("Europe/Berlin"));
+        QCOMPARE(Event::formatTimestamp(berlin), "2024-03-10T22:59:59Z");
+        const QDateTime offset(QDate(1999, 12, 31), QTime(20, 30, 0), QTimeZone(-5 * 3600));
+        QCOMPARE(Event::formatTimestamp(offset), "2000-01-01T01:30:00Z");
+    }
+
+    void eventPropsAreAlwaysAnObject()
+    {
+        Event event;
+        event.props = CodableProps();
+        QCOMPARE(event.toJson()->value("props"), QJsonValue(QJsonObject()));
+        event.props = {{"f", AnyCodableValue::floatValue(0.1f)},
+                       {"i", AnyCodableValue::integer(-(qint64(1) << 53) - 1)}};
+        const QJsonObject props = event.toJson()->value("props").toObject();
+        QCOMPARE(props.value("f").toDouble(), 0.1);
+        QCOMPARE(props.value("i").toInteger(), -(qint64(1) << 53) - 1);
+        event.props = {{"inf", AnyCodableValue::floatValue(std::numeric_limits<float>::infinity())}};
+        QVERIFY(!event.toJson());
+    }
+
+    void debugLinesAreQuotedAndEscaped()
+    {
+        QCOMPARE(DebugPrint::quoted("plain ✅"), "\"plain ✅\"");
+        QCOMPARE(DebugPrint::quoted("say \"hi\" it's C:\\ \n\t\r\x01"),
+                 "\"say \\\"hi\\\" it\\'s C:\\\\ \\n\\t\\r\\u{1}\"");
+    }
+
+    void queueKeepsOrderAcrossThreads()
+    {
+        ConcurrentQueue<int> queue;
+        queue.enqueue(1);
+        queue.enqueue(QList<int>{2, 3, 4});
+        QCOMPARE(queue.dequeue(2), (QList<int>{1, 2}));
+        QCOMPARE(queue.dequeue(), 3);
+        QCOMPARE(queue.dequeue(10), QList<int>{4});
+        QCOMPARE(queue.dequeue(), std::nullopt);
+        QVERIFY(queue.isEmpty());
+
+        // Four writers and one reader at once: nothing lost, each writer's order kept.
+        constexpr int perWriter = 20000;
+        QList<QThread *> writers;
+        for (int w = 0; w < 4; ++w)
+            writers << QThread::create([&queue, w] {
+                for (int i = 0; i < perWriter; ++i)
+                    queue.enqueue(w * perWriter + i);
+            });
+        for (QThread *writer : writers)
+            writer->start();
+        QList<int> read;
+        while (read.size() < 4 * perWriter)
+            read += queue.dequeue(25);
+        for (QThread *writer : writers) {
+            writer->wait();
+            delete writer;
+        }
+        QList<int> last(4, -1);
+        for (int value : read) {
+            QVERIFY(value > last[value / perWriter]);
+            last[value / perWriter] = value;
+        }
+        QCOMPARE(queue.count(), 0);
+    }
+};
+
+QTEST_GUILESS_MAIN(TestAptabaseWire)
+#include "tst_aptabase_wire.moc"
