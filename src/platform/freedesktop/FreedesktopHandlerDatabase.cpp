@@ -108,6 +108,9 @@ QStringList FreedesktopHandlerDatabase::applicationsForScheme(const QString &sch
     return locations;
 }
 
+// GIO's answer, which is what opens links on the desktop. xdg-mime 1.1.3 differs: it takes a
+// listed default whose file merely exists (a missing TryExec or a malformed entry still wins
+// there), and its fallback to mimeinfo.cache ignores [Removed Associations].
 std::optional<QString> FreedesktopHandlerDatabase::defaultApplicationForScheme(const QString &scheme) const
 {
     const QString mimeType = mimeTypeForScheme(scheme);

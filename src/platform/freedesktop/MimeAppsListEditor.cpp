@@ -65,7 +65,10 @@ void MimeAppsListEditor::setValue(const QString &group, const QString &key, cons
     QList<qsizetype> lines = keyLines(groupName, keyName);
     if (!lines.isEmpty()) {
         Line &line = m_lines[lines.takeLast()];
-        line.text = line.text.first(line.text.indexOf('=') + 1) + bytes;
+        qsizetype valueStart = line.text.indexOf('=') + 1;
+        while (valueStart < line.text.size() && (line.text[valueStart] == ' ' || line.text[valueStart] == '\t'))
+            ++valueStart;
+        line.text = line.text.first(valueStart) + bytes;
         for (auto it = lines.crbegin(); it != lines.crend(); ++it)
             m_lines.removeAt(*it);
         return;

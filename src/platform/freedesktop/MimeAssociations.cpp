@@ -27,14 +27,15 @@ MimeAssociations MimeAssociations::load(const QString &mimeType, const QList<Xdg
         for (const QString &desktop : desktops)
             expand(lists.defaults, MimeAppsList::read(place.path + u'/' + desktop + u"-mimeapps.list", mimeType).defaults());
         const MimeAppsList main = MimeAppsList::read(place.path + u"/mimeapps.list", mimeType);
-        expand(lists.additions, main.added(), lists.removals);
+        expand(lists.additions, main.added());
         expand(lists.removals, main.removed(), lists.additions);
         expand(lists.defaults, main.defaults());
         if (place.holdsApplications) {
             // defaults.list is an old GLib-only file that still counts for defaults.
             expand(lists.defaults, MimeAppsList::read(place.path + u"/defaults.list", mimeType).defaults());
-            expand(lists.additions, MimeAppsList::read(place.path + u"/mimeinfo.cache", mimeType).cached(),
-                   lists.removals);
+            // GIO lets the cache add back what this directory's own list removes; a
+            // removal only acts on the directories below.
+            expand(lists.additions, MimeAppsList::read(place.path + u"/mimeinfo.cache", mimeType).cached());
             lists.applicationsIndex = applicationsIndex++;
         }
         result.m_places.append(lists);

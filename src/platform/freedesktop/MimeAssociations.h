@@ -21,7 +21,7 @@ public:
     // explicit default is also associated, nor that no [Removed Associations] names it.
     QStringList explicitDefaults() const;
     // The associated ids in order: per place its added associations and then its cached
-    // ones, less what a [Removed Associations] of that place or a higher one names.
+    // ones, less what a [Removed Associations] of a higher place names.
     QStringList associated(const DesktopFileLocator &locator) const;
 
 private:

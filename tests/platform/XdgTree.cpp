@@ -1,0 +1,123 @@
+#include "XdgTree.h"
+
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+#include <QProcess>
+
+namespace {
+
+const QList<QByteArray> managedVariables{"HOME", "XDG_CONFIG_HOME", "XDG_CONFIG_DIRS", "XDG_DATA_HOME",
+                                         "XDG_DATA_DIRS", "XDG_CURRENT_DESKTOP", "PATH", "XDG_RUNTIME_DIR"};
+
+QString runTool(const QString &program, const QStringList &arguments)
+{
+    QProcess process;
+    process.setProcessChannelMode(QProcess::SeparateChannels);
+    process.start(program, arguments);
+    if (!process.waitForFinished(30000))
+        return {};
+    return QString::fromUtf8(process.readAllStandardOutput());
+}
+
+} // namespace
+
+XdgTree::XdgTree()
+{
+    for (const QByteArray &name : managedVariables)
+        m_saved.insert(name, qEnvironmentVariableIsSet(name) ? std::optional(qgetenv(name)) : std::nullopt);
+    const QString root = m_dir.path();
+    for (const char *dir : {"home", "config", "etc/xdg", "local/share/applications", "share1/applications",
+                            "share2/applications", "bin", "runtime"})
+        QDir().mkpath(root + u'/' + QLatin1String(dir));
+    QFile::setPermissions(root + QStringLiteral("/runtime"), QFileDevice::ReadOwner | QFileDevice::WriteOwner | QFileDevice::ExeOwner);
+    qputenv("HOME", QFile::encodeName(root + QStringLiteral("/home")));
+    qputenv("XDG_CONFIG_HOME", QFile::encodeName(root + QStringLiteral("/config")));
+    qputenv("XDG_CONFIG_DIRS", QFile::encodeName(root + QStringLiteral("/etc/xdg")));
+    qputenv("XDG_DATA_HOME", QFile::encodeName(root + QStringLiteral("/local/share")));
+    qputenv("XDG_DATA_DIRS", QFile::encodeName(root + QStringLiteral("/share1:") + root + QStringLiteral("/share2")));
+    qputenv("XDG_RUNTIME_DIR", QFile::encodeName(root + QStringLiteral("/runtime")));
+    qputenv("PATH", QFile::encodeName(root + QStringLiteral("/bin:")) + m_saved.value("PATH").value_or("/usr/bin:/bin"));
+    qunsetenv("XDG_CURRENT_DESKTOP");
+}
+
+XdgTree::~XdgTree()
+{
+    for (auto it = m_saved.cbegin(); it != m_saved.cend(); ++it) {
+        if (it.value())
+            qputenv(it.key().constData(), *it.value());
+        else
+            qunsetenv(it.key().constData());
+    }
+}
+
+QString XdgTree::path(const QString &relative) const
+{
+    return relative.isEmpty() ? m_dir.path() : m_dir.path() + u'/' + relative;
+}
+
+void XdgTree::write(const QString &relative, const QByteArray &content) const
+{
+    const QString file = path(relative);
+    QDir().mkpath(QFileInfo(file).absolutePath());
+    QFile out(file);
+    if (out.open(QIODevice::WriteOnly | QIODevice::Truncate))
+        out.write(content);
+}
+
+QByteArray XdgTree::read(const QString &relative) const
+{
+    QFile in(path(relative));
+    return in.open(QIODevice::ReadOnly) ? in.readAll() : QByteArray();
+}
+
+QString XdgTree::stub(const QString &name) const
+{
+    const QString relative = QStringLiteral("bin/") + name;
+    write(relative, "#!/bin/sh\nexit 0\n");
+    QFile::setPermissions(path(relative), QFileDevice::ReadOwner | QFileDevice::WriteOwner | QFileDevice::ExeOwner);
+    return path(relative);
+}
+
+QString XdgTree::entry(const QString &dir, const QString &file, const QByteArray &mimeTypes,
+                       const QByteArray &extra) const
+{
+    const QString program = stub(QFileInfo(file).completeBaseName());
+    QByteArray content = "[Desktop Entry]\nType=Application\nName=" + QFileInfo(file).completeBaseName().toUtf8()
+                         + "\nExec=" + program.toUtf8() + " %u\n";
+    if (!mimeTypes.isEmpty())
+        content += "MimeType=" + mimeTypes + "\n";
+    content += extra;
+    const QString relative = dir + u'/' + file;
+    write(relative, content);
+    return path(relative);
+}
+
+void XdgTree::updateCaches() const
+{
+    for (const char *dir : {"local/share/applications", "share1/applications", "share2/applications"})
+        runTool(QStringLiteral("update-desktop-database"), {path(QLatin1String(dir))});
+}
+
+XdgTree::GioAnswer XdgTree::gioMime(const QString &mimeType)
+{
+    GioAnswer answer;
+    const QStringList lines = runTool(QStringLiteral("gio"), {QStringLiteral("mime"), mimeType}).split(u'\n');
+    bool inRegistered = false;
+    for (const QString &line : lines) {
+        if (line.startsWith(QStringLiteral("Default application for"))) {
+            answer.defaultId = line.section(QStringLiteral(": "), -1).trimmed();
+        } else if (line.startsWith(u'\t') || line.startsWith(u' ')) {
+            if (inRegistered)
+                answer.registered.append(line.trimmed());
+        } else {
+            inRegistered = line.startsWith(QStringLiteral("Registered applications"));
+        }
+    }
+    return answer;
+}
+
+QString XdgTree::xdgMimeDefault(const QString &mimeType)
+{
+    return runTool(QStringLiteral("xdg-mime"), {QStringLiteral("query"), QStringLiteral("default"), mimeType}).trimmed();
+}

@@ -1,0 +1,85 @@
+#include "platform/freedesktop/DesktopEntry.h"
+#include "platform/freedesktop/MimeAppsList.h"
+
+#include <QTest>
+
+class TestDesktopEntry : public QObject {
+    Q_OBJECT
+
+private slots:
+    void readsOnlyTheEntryGroup()
+    {
+        const auto entry = DesktopEntry::parse("# comment\r\n[Desktop Entry]\r\nName[de]=Post\r\nName = Mail\\sClient \r\n"
+                                               "Type=Application\r\nNoDisplay=true\r\nHidden=false\r\n"
+                                               "Categories=Network;Email;\r\nMimeType=x-scheme-handler/mailto;;\r\n"
+                                               "[Desktop Action compose]\r\nName=Write new message\r\nExec=other\r\n"
+                                               "Type=Link\r\nHidden=true\r\n");
+        QVERIFY(entry.isValid());
+        QCOMPARE(entry.name(), QStringLiteral("Mail Client"));
+        QCOMPARE(entry.type(), QStringLiteral("Application"));
+        QVERIFY(entry.noDisplay());
+        QVERIFY(!entry.hidden());
+        QCOMPARE(entry.categories(), QStringList({"Network", "Email"}));
+        QCOMPARE(entry.mimeTypes(), QStringList({"x-scheme-handler/mailto"}));
+        QCOMPARE(entry.exec(), QString());
+    }
+
+    void refusesWhatGLibRefuses_data()
+    {
+        QTest::addColumn<QByteArray>("content");
+        QTest::newRow("action group first") << QByteArray("[Desktop Action a]\nName=x\n[Desktop Entry]\nName=y\n");
+        QTest::newRow("key before any group") << QByteArray("Name=x\n[Desktop Entry]\nName=y\n");
+        QTest::newRow("line without =") << QByteArray("[Desktop Entry]\nName=y\nwhat\n");
+        QTest::newRow("broken header") << QByteArray("[Desktop Entry\nName=y\n");
+        QTest::newRow("empty") << QByteArray();
+    }
+
+    void refusesWhatGLibRefuses()
+    {
+        QFETCH(QByteArray, content);
+        QVERIFY(!DesktopEntry::parse(content).isValid());
+    }
+
+    void execProgram_data()
+    {
+        QTest::addColumn<QString>("exec");
+        QTest::addColumn<QString>("program");
+        QTest::newRow("plain") << "/usr/bin/firefox-esr %u" << "/usr/bin/firefox-esr";
+        QTest::newRow("leading blanks") << "  prog --flag" << "prog";
+        QTest::newRow("double quotes") << "\"/opt/My App/run\" %U" << "/opt/My App/run";
+        // The line is unescaped as a key-file value first (\\ is one backslash), then split.
+        QTest::newRow("escapes in double quotes") << "\"/opt/a\\\\\"b\\\\\\\\c\" x" << "/opt/a\"b\\c";
+        QTest::newRow("single quotes") << "'/opt/it'\"'\"'s' -x" << "/opt/it's";
+        QTest::newRow("backslash") << "/opt/My\\\\ App %f" << "/opt/My App";
+        QTest::newRow("key-file blank escape") << "/opt/My\\sApp %f" << "/opt/My";
+        QTest::newRow("env prefix is the program") << "env A=b prog" << "env";
+        QTest::newRow("unterminated") << "\"/opt/x" << QString();
+        QTest::newRow("blank") << "   " << QString();
+    }
+
+    void execProgram()
+    {
+        QFETCH(QString, exec);
+        QFETCH(QString, program);
+        const QByteArray content = "[Desktop Entry]\nExec=" + exec.toUtf8() + "\n";
+        const auto found = DesktopEntry::parse(content).execProgram();
+        QCOMPARE(found.value_or(QString()), program);
+    }
+
+    void mimeAppsListLastLineWins()
+    {
+        const MimeAppsList list = MimeAppsList::parse("[Default Applications]\nt=a.desktop\nt=b.desktop;c.desktop\nu=z.desktop\n"
+                                                      "[Added Associations]\nt=a.desktop;\n[Removed Associations]\nt= d.desktop ; e.desktop;\n"
+                                                      "[MIME Cache]\nt=f.desktop;\n",
+                                                      QStringLiteral("t"));
+        QCOMPARE(list.defaults(), QStringList({"b.desktop", "c.desktop"}));
+        QCOMPARE(list.added(), QStringList({"a.desktop"}));
+        QCOMPARE(list.removed(), QStringList({"d.desktop", "e.desktop"}));
+        QCOMPARE(list.cached(), QStringList({"f.desktop"}));
+        // GLib throws away a malformed list as a whole.
+        QVERIFY(MimeAppsList::parse("[Default Applications]\nt=a.desktop\nstray line\n", QStringLiteral("t")).defaults().isEmpty());
+    }
+};
+
+QTEST_GUILESS_MAIN(TestDesktopEntry)
+#include "tst_desktopentry.moc"
