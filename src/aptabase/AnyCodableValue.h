@@ -9,8 +9,7 @@
 
 // The closed set of property values the wire format knows. Each encodes as one bare JSON
 // value of its kind.
-class AnyCodableValue
-{
+class AnyCodableValue {
 public:
     enum class Kind { Integer, String, Float, Double, Boolean, Null };
 
@@ -30,7 +29,8 @@ public:
 
 private:
     using Storage = std::variant<qint64, QString, float, double, bool, std::monostate>;
-    explicit AnyCodableValue(Storage value) : m_value(std::move(value)) {}
+    explicit AnyCodableValue(Storage value)
+        : m_value(std::move(value)) {}
     Storage m_value;
 };
 

@@ -5,13 +5,11 @@
 #include "BuildConfig.h"
 
 #include <QMetaType>
-#include <QNetworkAccessManager>
 #include <QStringList>
 
 namespace {
 
-std::optional<AnyCodableValue> codableValue(const QVariant &value)
-{
+std::optional<AnyCodableValue> codableValue(const QVariant &value) {
     switch (value.typeId()) {
     case QMetaType::Int:
     case QMetaType::UInt:
@@ -33,13 +31,19 @@ std::optional<AnyCodableValue> codableValue(const QVariant &value)
     }
 }
 
+Aptabase *sharedInstance = nullptr;
+
 } // namespace
 
-Aptabase &Aptabase::shared()
-{
+Aptabase &Aptabase::shared() {
     // Made on first touch and never destroyed: its client may still be flushing at exit.
-    static Aptabase *instance = new Aptabase();
-    return *instance;
+    if (!sharedInstance)
+        sharedInstance = new Aptabase();
+    return *sharedInstance;
+}
+
+void Aptabase::setShared(Aptabase *instance) {
+    sharedInstance = instance;
 }
 
 Aptabase::Aptabase(EnvironmentInfo env)
@@ -49,31 +53,25 @@ Aptabase::Aptabase(EnvironmentInfo env)
           {QStringLiteral("EU"), QString::fromUtf8(BuildConfig::analyticsEuHost)},
           {QStringLiteral("DEV"), QStringLiteral("http://localhost:3000")},
           {QStringLiteral("SH"), QString()},
-      }
-{
-}
+      } {}
 
-Aptabase::~Aptabase()
-{
+Aptabase::~Aptabase() {
     delete m_client;
 }
 
-void Aptabase::initialize(const QString &appKey)
-{
+void Aptabase::initialize(const QString &appKey) {
     initialize(appKey, std::optional<InitOptions>());
 }
 
-void Aptabase::initialize(const QString &appKey, const InitOptions &options)
-{
+void Aptabase::initialize(const QString &appKey, const InitOptions &options) {
     initialize(appKey, std::optional<InitOptions>(options));
 }
 
-void Aptabase::initialize(const QString &appKey, const std::optional<InitOptions> &with)
-{
+void Aptabase::initialize(const QString &appKey, const std::optional<InitOptions> &with) {
     const QStringList parts = appKey.split(QLatin1Char('-'));
     if (parts.size() != 3 || !m_hosts.contains(parts.at(1))) {
-        DebugPrint::write(QStringLiteral("The Aptabase App Key ") + appKey
-                          + QStringLiteral(" is invalid. Tracking will be disabled."));
+        DebugPrint::write(QStringLiteral("The Aptabase App Key ") + appKey +
+                          QStringLiteral(" is invalid. Tracking will be disabled."));
         return;
     }
     const std::optional<QString> baseUrl =
@@ -90,8 +88,7 @@ void Aptabase::initialize(const QString &appKey, const std::optional<InitOptions
 }
 
 std::optional<QString> Aptabase::getBaseUrl(const QString &region,
-                                            const std::optional<QString> &host) const
-{
+                                            const std::optional<QString> &host) const {
     const auto found = m_hosts.constFind(region);
     if (found == m_hosts.cend())
         return std::nullopt;
@@ -107,54 +104,40 @@ std::optional<QString> Aptabase::getBaseUrl(const QString &region,
     return found.value();
 }
 
-void Aptabase::trackEvent(const QString &eventName, const ValueProps &with)
-{
-    QVariantMap widened;
-    for (auto it = with.cbegin(); it != with.cend(); ++it)
-        widened.insert(it.key(), it.value().toVariant());
-    trackEvent(eventName, widened);
-}
-
-void Aptabase::trackEvent(const QString &eventName, const QVariantMap &with)
-{
+void Aptabase::trackEvent(const QString &eventName, const QVariantMap &with) {
     if (const std::optional<CodableProps> props = toCodableProps(with))
         enqueueEvent(eventName, *props);
 }
 
-void Aptabase::enqueueEvent(const QString &eventName, const CodableProps &with)
-{
+void Aptabase::enqueueEvent(const QString &eventName, const CodableProps &with) {
     if (m_client)
         m_client->trackEvent(eventName, with);
 }
 
-void Aptabase::flush()
-{
+void Aptabase::flush() {
     if (m_client)
         m_client->flush();
 }
 
-void Aptabase::startPolling()
-{
+void Aptabase::startPolling() {
     if (m_client)
         m_client->startPolling();
 }
 
-void Aptabase::stopPolling()
-{
+void Aptabase::stopPolling() {
     if (m_client)
         m_client->stopPolling();
 }
 
-std::optional<CodableProps> Aptabase::toCodableProps(const QVariantMap &from)
-{
+std::optional<CodableProps> Aptabase::toCodableProps(const QVariantMap &from) {
     CodableProps result;
     for (auto it = from.cbegin(); it != from.cend(); ++it) {
         std::optional<AnyCodableValue> value = codableValue(it.value());
         if (!value) {
-            DebugPrint::write(QStringLiteral("Aptabase: Props with key ") + it.key()
-                              + QStringLiteral(" has an unsupported value type. Supported types "
-                                               "are: String, Int, Double, Float and Boolean. "
-                                               "Event will be discarded"));
+            DebugPrint::write(QStringLiteral("Aptabase: Props with key ") + it.key() +
+                              QStringLiteral(" has an unsupported value type. Supported types "
+                                             "are: String, Int, Double, Float and Boolean. "
+                                             "Event will be discarded"));
             return std::nullopt;
         }
         result.insert(it.key(), *value);

@@ -7,7 +7,6 @@
 #include "aptabase/Value.h"
 
 #include <QMap>
-#include <QPointer>
 #include <QString>
 #include <QVariantMap>
 
@@ -19,10 +18,12 @@ class QNetworkAccessManager;
 // it cannot place (every later call then falls silent), and checks the properties of events.
 // The application calls startPolling() when it becomes active and stopPolling() when it is
 // about to quit; until the first startPolling() events only wait in the queue.
-class Aptabase
-{
+class Aptabase {
 public:
     static Aptabase &shared();
+    // Lets a test put its own instance (kept by the caller) behind shared(); none goes back
+    // to a default one made on the next touch.
+    static void setShared(Aptabase *instance);
 
     explicit Aptabase(EnvironmentInfo env = EnvironmentInfo::current());
     ~Aptabase();
@@ -33,7 +34,13 @@ public:
     void initialize(const QString &appKey, const std::optional<InitOptions> &with);
     void initialize(const QString &appKey, const InitOptions &options);
 
-    void trackEvent(const QString &eventName, const ValueProps &with);
+    // A template only so that a braced list of properties picks the QVariantMap form below.
+    template <class = void> void trackEvent(const QString &eventName, const ValueProps &with) {
+        QVariantMap widened;
+        for (auto it = with.cbegin(); it != with.cend(); ++it)
+            widened.insert(it.key(), it.value().toVariant());
+        trackEvent(eventName, widened);
+    }
     void trackEvent(const QString &eventName, const QVariantMap &with = {});
     // Starts a flush and returns at once.
     void flush();
@@ -45,7 +52,8 @@ public:
     // Boolean. None (and a line) when a value is of any other kind: the event is dropped.
     static std::optional<CodableProps> toCodableProps(const QVariantMap &from);
 
-    // Used by the next initialize(); both default to the client's own.
+    // Used by the next initialize(); both default to the client's own. The transport must
+    // outlive the client.
     void setTransport(QNetworkAccessManager *session) { m_session = session; }
     void setClock(AptabaseClient::Clock clock) { m_clock = std::move(clock); }
 
@@ -61,6 +69,6 @@ private:
     EnvironmentInfo m_env;
     AptabaseClient *m_client = nullptr;
     QMap<QString, QString> m_hosts;
-    QPointer<QNetworkAccessManager> m_session;
+    QNetworkAccessManager *m_session = nullptr;
     AptabaseClient::Clock m_clock;
 };

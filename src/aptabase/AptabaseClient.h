@@ -16,8 +16,7 @@ class QNetworkAccessManager;
 class QTimer;
 
 // The core of the analytics client: stamps events with a session and keeps the flush timer.
-class AptabaseClient : public QObject
-{
+class AptabaseClient : public QObject {
     Q_OBJECT
 public:
     using Clock = std::function<QDateTime()>;

@@ -11,17 +11,24 @@ namespace {
 QMutex sinkMutex;
 DebugPrint::Sink currentSink;
 
-QString escaped(char32_t scalar)
-{
+QString escaped(char32_t scalar) {
     switch (scalar) {
-    case U'\0': return QStringLiteral("\\0");
-    case U'\t': return QStringLiteral("\\t");
-    case U'\n': return QStringLiteral("\\n");
-    case U'\r': return QStringLiteral("\\r");
-    case U'"': return QStringLiteral("\\\"");
-    case U'\'': return QStringLiteral("\\'");
-    case U'\\': return QStringLiteral("\\\\");
-    default: break;
+    case U'\0':
+        return QStringLiteral("\\0");
+    case U'\t':
+        return QStringLiteral("\\t");
+    case U'\n':
+        return QStringLiteral("\\n");
+    case U'\r':
+        return QStringLiteral("\\r");
+    case U'"':
+        return QStringLiteral("\\\"");
+    case U'\'':
+        return QStringLiteral("\\'");
+    case U'\\':
+        return QStringLiteral("\\\\");
+    default:
+        break;
     }
     if (scalar < 0x20 || scalar == 0x7f)
         return QStringLiteral("\\u{") + QString::number(uint(scalar), 16) + QLatin1Char('}');
@@ -30,8 +37,7 @@ QString escaped(char32_t scalar)
 
 } // namespace
 
-QString DebugPrint::quoted(const QString &text)
-{
+QString DebugPrint::quoted(const QString &text) {
     QString result = QStringLiteral("\"");
     for (char32_t scalar : text.toUcs4())
         result += escaped(scalar);
@@ -39,8 +45,7 @@ QString DebugPrint::quoted(const QString &text)
     return result;
 }
 
-void DebugPrint::write(const QString &text)
-{
+void DebugPrint::write(const QString &text) {
     const QString line = quoted(text);
     QMutexLocker lock(&sinkMutex);
     if (currentSink) {
@@ -52,8 +57,7 @@ void DebugPrint::write(const QString &text)
     std::fflush(stdout);
 }
 
-DebugPrint::Sink DebugPrint::setSink(Sink sink)
-{
+DebugPrint::Sink DebugPrint::setSink(Sink sink) {
     QMutexLocker lock(&sinkMutex);
     std::swap(sink, currentSink);
     return sink;

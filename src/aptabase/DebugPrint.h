@@ -7,8 +7,7 @@
 // The analytics client's diagnostic lines: each text is written as a quoted, escaped string
 // literal, one line on standard output, flushed. A sink installed by a test takes the lines
 // instead.
-class DebugPrint
-{
+class DebugPrint {
 public:
     using Sink = std::function<void(const QString &line)>;
 

@@ -10,8 +10,7 @@
 
 namespace {
 
-QString firstLineOf(const QString &path)
-{
+QString firstLineOf(const QString &path) {
     QFile file(path);
     if (!file.open(QIODevice::ReadOnly))
         return {};
@@ -23,16 +22,14 @@ QString firstLineOf(const QString &path)
     return QString::fromUtf8(bytes).section(QLatin1Char('\n'), 0, 0).trimmed();
 }
 
-QString unameMachine()
-{
+QString unameMachine() {
     utsname names{};
     if (uname(&names) != 0)
         return {};
     return QString::fromUtf8(names.machine);
 }
 
-QString languageCode(const QLocale &locale)
-{
+QString languageCode(const QLocale &locale) {
     const QLocale::Language language = locale.language();
     if (language == QLocale::C || language == QLocale::AnyLanguage)
         return {};
@@ -41,8 +38,7 @@ QString languageCode(const QLocale &locale)
 
 } // namespace
 
-EnvironmentInfo EnvironmentInfo::current()
-{
+EnvironmentInfo EnvironmentInfo::current() {
     EnvironmentInfo info;
     info.isDebug = BuildConfig::debugBuild;
     info.osName = QStringLiteral("Linux");
@@ -54,8 +50,7 @@ EnvironmentInfo EnvironmentInfo::current()
     return info;
 }
 
-QString EnvironmentInfo::paddedVersion(const QString &productVersion)
-{
+QString EnvironmentInfo::paddedVersion(const QString &productVersion) {
     const QStringList parts = productVersion.split(QLatin1Char('.'));
     QStringList numbers;
     for (int i = 0; i < 3; ++i) {
@@ -67,8 +62,7 @@ QString EnvironmentInfo::paddedVersion(const QString &productVersion)
 }
 
 QString EnvironmentInfo::deviceModelFrom(const QString &dmiProductNamePath,
-                                         const QString &deviceTreeModelPath)
-{
+                                         const QString &deviceTreeModelPath) {
     for (const QString &path : {dmiProductNamePath, deviceTreeModelPath}) {
         const QString model = firstLineOf(path);
         if (!model.isEmpty())
@@ -80,8 +74,7 @@ QString EnvironmentInfo::deviceModelFrom(const QString &dmiProductNamePath,
     return unameMachine();
 }
 
-QString EnvironmentInfo::deviceModelOfThisMachine()
-{
+QString EnvironmentInfo::deviceModelOfThisMachine() {
     return deviceModelFrom(QStringLiteral("/sys/class/dmi/id/product_name"),
                            QStringLiteral("/proc/device-tree/model"));
 }

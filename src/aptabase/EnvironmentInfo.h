@@ -3,8 +3,7 @@
 #include <QString>
 
 // A snapshot of the running system that every event carries.
-struct EnvironmentInfo
-{
+struct EnvironmentInfo {
     bool isDebug = false;
     QString osName;
     QString osVersion;

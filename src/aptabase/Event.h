@@ -9,10 +9,8 @@
 #include <optional>
 
 // One tracked event as it goes over the wire.
-struct Event
-{
-    struct SystemProps
-    {
+struct Event {
+    struct SystemProps {
         bool isDebug = false;
         QString locale;
         QString osName;

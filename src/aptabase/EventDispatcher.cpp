@@ -13,14 +13,12 @@ namespace {
 
 constexpr int requestTimeoutMs = 60000;
 
-QString failureLine(qsizetype batchSize, const QString &reason)
-{
-    return QStringLiteral("Aptabase: Failed to send ") + QString::number(batchSize)
-           + QStringLiteral(" events. Reason: ") + reason;
+QString failureLine(qsizetype batchSize, const QString &reason) {
+    return QStringLiteral("Aptabase: Failed to send ") + QString::number(batchSize) +
+           QStringLiteral(" events. Reason: ") + reason;
 }
 
-QString utf8OrEmpty(const QByteArray &bytes)
-{
+QString utf8OrEmpty(const QByteArray &bytes) {
     QStringDecoder decoder(QStringDecoder::Utf8);
     const QString text = decoder.decode(bytes);
     return decoder.hasError() ? QString() : text;
@@ -46,18 +44,15 @@ EventDispatcher::EventDispatcher(const QString &appKey, const QString &baseUrl,
         qFatal("Aptabase: invalid ingestion address %s", qPrintable(baseUrl));
 }
 
-void EventDispatcher::enqueue(const Event &event)
-{
+void EventDispatcher::enqueue(const Event &event) {
     m_events.enqueue(event);
 }
 
-void EventDispatcher::enqueue(const QList<Event> &events)
-{
+void EventDispatcher::enqueue(const QList<Event> &events) {
     m_events.enqueue(events);
 }
 
-void EventDispatcher::flush(std::function<void()> done)
-{
+void EventDispatcher::flush(std::function<void()> done) {
     if (m_events.isEmpty()) {
         if (done)
             done();
@@ -66,8 +61,7 @@ void EventDispatcher::flush(std::function<void()> done)
     sendNextBatch(std::make_shared<QList<Event>>(), done);
 }
 
-void EventDispatcher::sendNextBatch(const FailedEvents &failed, const std::function<void()> &done)
-{
+void EventDispatcher::sendNextBatch(const FailedEvents &failed, const std::function<void()> &done) {
     if (m_events.isEmpty()) {
         // Failed batches go to the back, behind whatever arrived meanwhile.
         if (!failed->isEmpty())
@@ -84,8 +78,7 @@ void EventDispatcher::sendNextBatch(const FailedEvents &failed, const std::funct
     });
 }
 
-std::optional<QByteArray> EventDispatcher::encode(const QList<Event> &batch)
-{
+std::optional<QByteArray> EventDispatcher::encode(const QList<Event> &batch) {
     QJsonArray array;
     for (const Event &event : batch) {
         const std::optional<QJsonObject> object = event.toJson();
@@ -97,8 +90,7 @@ std::optional<QByteArray> EventDispatcher::encode(const QList<Event> &batch)
 }
 
 void EventDispatcher::sendEvents(const QList<Event> &batch,
-                                 std::function<void(bool sent)> finished)
-{
+                                 std::function<void(bool sent)> finished) {
     if (batch.isEmpty()) {
         finished(true);
         return;
@@ -107,7 +99,8 @@ void EventDispatcher::sendEvents(const QList<Event> &batch,
     if (!body) {
         DebugPrint::write(failureLine(
             batch.size(),
-            QStringLiteral("The data couldn’t be written because it isn’t in the correct format.")));
+            QStringLiteral(
+                "The data couldn’t be written because it isn’t in the correct format.")));
         finished(false);
         return;
     }
@@ -123,8 +116,7 @@ void EventDispatcher::sendEvents(const QList<Event> &batch,
     });
 }
 
-bool EventDispatcher::handleReply(QNetworkReply *reply, qsizetype batchSize)
-{
+bool EventDispatcher::handleReply(QNetworkReply *reply, qsizetype batchSize) {
     // The reply's error() also reports HTTP statuses of 400 and up; those are answers and are
     // judged by their status. Only a reply without a status failed in transport.
     const QVariant status = reply->attribute(QNetworkRequest::HttpStatusCodeAttribute);
@@ -140,14 +132,14 @@ bool EventDispatcher::handleReply(QNetworkReply *reply, qsizetype batchSize)
     const QString reason =
         QString::number(statusCode) + QLatin1Char(' ') + utf8OrEmpty(reply->readAll());
     if (statusCode < 500) {
-        DebugPrint::write(QStringLiteral("Aptabase: Failed to send ") + QString::number(batchSize)
-                          + QStringLiteral(" events because of ") + reason
-                          + QStringLiteral(". Will not retry."));
+        DebugPrint::write(QStringLiteral("Aptabase: Failed to send ") + QString::number(batchSize) +
+                          QStringLiteral(" events because of ") + reason +
+                          QStringLiteral(". Will not retry."));
         return true;
     }
-    DebugPrint::write(failureLine(
-        batchSize, QStringLiteral("Error Domain=AptabaseError Code=") + QString::number(statusCode)
-                       + QStringLiteral(" \"(null)\" UserInfo={reason=") + reason
-                       + QLatin1Char('}')));
+    DebugPrint::write(failureLine(batchSize, QStringLiteral("Error Domain=AptabaseError Code=") +
+                                                 QString::number(statusCode) +
+                                                 QStringLiteral(" \"(null)\" UserInfo={reason=") +
+                                                 reason + QLatin1Char('}')));
     return false;
 }

@@ -17,8 +17,7 @@ class QNetworkReply;
 
 // Drains the queue of events in batches and posts them to the ingestion endpoint. Each
 // batch is finished, thrown away or put back at the end of the queue, by its outcome.
-class EventDispatcher : public QObject
-{
+class EventDispatcher : public QObject {
     Q_OBJECT
 public:
     static constexpr qsizetype maximumBatchSize = 25;

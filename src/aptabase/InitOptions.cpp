@@ -4,6 +4,4 @@ InitOptions::InitOptions(std::optional<QString> host, std::optional<double> flus
                          const TrackingMode &trackingMode)
     : m_host(std::move(host))
     , m_flushInterval(flushInterval)
-    , m_trackingMode(&trackingMode)
-{
-}
+    , m_trackingMode(&trackingMode) {}

@@ -7,8 +7,7 @@
 #include <optional>
 
 // Options of Aptabase::initialize; immutable once built, and every argument must be given.
-class InitOptions
-{
+class InitOptions {
 public:
     InitOptions(std::optional<QString> host, std::optional<double> flushInterval,
                 const TrackingMode &trackingMode);

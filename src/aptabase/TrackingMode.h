@@ -2,8 +2,7 @@
 
 // How an initialised client decides whether its events are marked as debug ones. There are
 // exactly three modes, each a shared instance; they are compared by identity.
-class TrackingMode
-{
+class TrackingMode {
 public:
     static const TrackingMode &asDebug();
     static const TrackingMode &asRelease();
@@ -18,6 +17,7 @@ public:
     bool operator==(const TrackingMode &other) const { return this == &other; }
 
 private:
-    explicit TrackingMode(int value) : rawValue(value) {}
+    explicit TrackingMode(int value)
+        : rawValue(value) {}
     int rawValue;
 };

@@ -6,8 +6,8 @@
 #include <QRegularExpression>
 #include <QTcpSocket>
 
-LoopbackIngestion::LoopbackIngestion(QObject *parent) : QObject(parent)
-{
+LoopbackIngestion::LoopbackIngestion(QObject *parent)
+    : QObject(parent) {
     connect(&m_server, &QTcpServer::newConnection, this, [this] {
         while (QTcpSocket *socket = m_server.nextPendingConnection()) {
             connect(socket, &QTcpSocket::readyRead, this, [this, socket] { readFrom(socket); });
@@ -16,21 +16,18 @@ LoopbackIngestion::LoopbackIngestion(QObject *parent) : QObject(parent)
     });
 }
 
-bool LoopbackIngestion::listen(quint16 port)
-{
+bool LoopbackIngestion::listen(quint16 port) {
     if (!m_server.listen(QHostAddress::LocalHost, port))
         return false;
     m_port = m_server.serverPort();
     return true;
 }
 
-QString LoopbackIngestion::baseUrl() const
-{
+QString LoopbackIngestion::baseUrl() const {
     return QStringLiteral("http://127.0.0.1:%1").arg(m_port);
 }
 
-void LoopbackIngestion::readFrom(QTcpSocket *socket)
-{
+void LoopbackIngestion::readFrom(QTcpSocket *socket) {
     QByteArray &buffer = m_buffers[socket];
     buffer += socket->readAll();
     const qsizetype headerEnd = buffer.indexOf("\r\n\r\n");
@@ -68,31 +65,27 @@ void LoopbackIngestion::readFrom(QTcpSocket *socket)
         answer(socket);
 }
 
-void LoopbackIngestion::release()
-{
+void LoopbackIngestion::release() {
     m_holding = false;
     for (QTcpSocket *socket : std::exchange(m_held, {}))
         answer(socket);
 }
 
-void LoopbackIngestion::answer(QTcpSocket *socket)
-{
+void LoopbackIngestion::answer(QTcpSocket *socket) {
     --openRequests;
     const Answer next = m_script.isEmpty() ? Answer() : m_script.takeFirst();
-    socket->write("HTTP/1.1 " + QByteArray::number(next.status) + " Scripted\r\n"
-                  + "Content-Type: text/plain\r\nContent-Length: "
-                  + QByteArray::number(next.body.size()) + "\r\nConnection: close\r\n\r\n"
-                  + next.body);
+    socket->write(
+        "HTTP/1.1 " + QByteArray::number(next.status) + " Scripted\r\n" +
+        "Content-Type: text/plain\r\nContent-Length: " + QByteArray::number(next.body.size()) +
+        "\r\nConnection: close\r\n\r\n" + next.body);
     socket->disconnectFromHost();
 }
 
-QJsonArray LoopbackIngestion::Request::events() const
-{
+QJsonArray LoopbackIngestion::Request::events() const {
     return QJsonDocument::fromJson(body).array();
 }
 
-QStringList LoopbackIngestion::Request::eventNames() const
-{
+QStringList LoopbackIngestion::Request::eventNames() const {
     QStringList names;
     for (const QJsonValue &event : events())
         names << event[QLatin1String("eventName")].toString();
@@ -102,8 +95,7 @@ QStringList LoopbackIngestion::Request::eventNames() const
 namespace {
 
 void checkText(QStringList &problems, const QJsonObject &object, const char *key, int maximum,
-               bool required)
-{
+               bool required) {
     const QJsonValue value = object.value(QLatin1String(key));
     if (value.isUndefined() || value.isNull()) {
         if (required)
@@ -118,9 +110,9 @@ void checkText(QStringList &problems, const QJsonObject &object, const char *key
         problems << QStringLiteral("%1 is longer than %2").arg(QLatin1String(key)).arg(maximum);
 }
 
-void checkTimestamp(QStringList &problems, const QJsonValue &value)
-{
-    static const QRegularExpression form(QStringLiteral("^\\d{4}-\\d\\d-\\d\\dT\\d\\d:\\d\\d:\\d\\dZ$"));
+void checkTimestamp(QStringList &problems, const QJsonValue &value) {
+    static const QRegularExpression form(
+        QStringLiteral("^\\d{4}-\\d\\d-\\d\\dT\\d\\d:\\d\\d:\\d\\dZ$"));
     const QString text = value.toString();
     if (!form.match(text).hasMatch()) {
         problems << QStringLiteral("timestamp %1 is not in the expected form").arg(text);
@@ -134,8 +126,7 @@ void checkTimestamp(QStringList &problems, const QJsonValue &value)
         problems << QStringLiteral("timestamp %1 is older than a day").arg(text);
 }
 
-void checkProps(QStringList &problems, const QJsonValue &value)
-{
+void checkProps(QStringList &problems, const QJsonValue &value) {
     if (value.isUndefined())
         return;
     if (!value.isObject()) {
@@ -148,7 +139,8 @@ void checkProps(QStringList &problems, const QJsonValue &value)
             problems << QStringLiteral("property key '%1' is empty or too long").arg(it.key());
         const QJsonValue v = it.value();
         if (!v.isDouble() && !v.isString() && !v.isBool())
-            problems << QStringLiteral("property %1 is not a number, string or Boolean").arg(it.key());
+            problems
+                << QStringLiteral("property %1 is not a number, string or Boolean").arg(it.key());
         if (v.isString() && v.toString().size() > 200)
             problems << QStringLiteral("property %1 is longer than 200").arg(it.key());
     }
@@ -156,8 +148,7 @@ void checkProps(QStringList &problems, const QJsonValue &value)
 
 } // namespace
 
-QStringList LoopbackIngestion::validateEvents(const QByteArray &body, bool checkTimestamps)
-{
+QStringList LoopbackIngestion::validateEvents(const QByteArray &body, bool checkTimestamps) {
     QStringList problems;
     const QJsonDocument document = QJsonDocument::fromJson(body);
     if (!document.isArray() || document.array().isEmpty() || document.array().size() > 25)

@@ -13,12 +13,10 @@ class QTcpSocket;
 // A scripted ingestion server on 127.0.0.1. It records every request, answers with the next
 // scripted status (200 once the script is used up), and checks each request the way the
 // ingestion service does, collecting what it would reject in `problems`.
-class LoopbackIngestion : public QObject
-{
+class LoopbackIngestion : public QObject {
     Q_OBJECT
 public:
-    struct Request
-    {
+    struct Request {
         QByteArray method;
         QByteArray path;
         QMap<QByteArray, QByteArray> headers; // names in lower case
@@ -27,8 +25,7 @@ public:
         QStringList eventNames() const;
     };
 
-    struct Answer
-    {
+    struct Answer {
         int status = 200;
         QByteArray body;
     };

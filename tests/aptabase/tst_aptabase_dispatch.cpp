@@ -14,30 +14,26 @@ namespace {
 const QString appKey = QStringLiteral("A-SH-4817305526");
 
 std::unique_ptr<AptabaseClient> clientFor(const QString &baseUrl, double flushInterval = 3600,
-                                          AptabaseClient::Clock clock = {})
-{
+                                          AptabaseClient::Clock clock = {}) {
     return std::make_unique<AptabaseClient>(
         appKey, baseUrl, EnvironmentInfo::current(),
         InitOptions(baseUrl, flushInterval, TrackingMode::readFromEnvironment()), nullptr,
         std::move(clock));
 }
 
-void track(AptabaseClient &client, int from, int to)
-{
+void track(AptabaseClient &client, int from, int to) {
     for (int i = from; i < to; ++i)
         client.trackEvent(QStringLiteral("e%1").arg(i));
 }
 
-QStringList names(int from, int to)
-{
+QStringList names(int from, int to) {
     QStringList result;
     for (int i = from; i < to; ++i)
         result << QStringLiteral("e%1").arg(i);
     return result;
 }
 
-bool flushAndWait(AptabaseClient &client)
-{
+bool flushAndWait(AptabaseClient &client) {
     bool done = false;
     client.flush([&done] { done = true; });
     return QTest::qWaitFor([&done] { return done; });
@@ -45,12 +41,10 @@ bool flushAndWait(AptabaseClient &client)
 
 } // namespace
 
-class TestAptabaseDispatch : public QObject
-{
+class TestAptabaseDispatch : public QObject {
     Q_OBJECT
 private slots:
-    void batchesOfAtMost25OldestFirst()
-    {
+    void batchesOfAtMost25OldestFirst() {
         LoopbackIngestion server;
         QVERIFY(server.listen());
         auto client = clientFor(server.baseUrl());
@@ -75,8 +69,7 @@ private slots:
         QCOMPARE(client->dispatcher().pendingCount(), 0);
     }
 
-    void clientErrorDropsTheBatch()
-    {
+    void clientErrorDropsTheBatch() {
         LoopbackIngestion server;
         QVERIFY(server.listen());
         server.script({{404, "No such app"}});
@@ -93,8 +86,7 @@ private slots:
         QCOMPARE(server.requests.size(), 1);
     }
 
-    void serverErrorPutsTheBatchBack()
-    {
+    void serverErrorPutsTheBatchBack() {
         LoopbackIngestion server;
         QVERIFY(server.listen());
         server.script({{500, "down \"for\" now"}});
@@ -114,8 +106,7 @@ private slots:
         QCOMPARE(client->dispatcher().pendingCount(), 0);
     }
 
-    void refusedConnectionPutsTheBatchBack()
-    {
+    void refusedConnectionPutsTheBatchBack() {
         LoopbackIngestion server;
         QVERIFY(server.listen());
         const quint16 port = server.port();
@@ -135,8 +126,7 @@ private slots:
         QCOMPARE(server.requests[0].eventNames(), names(0, 1));
     }
 
-    void onlyTheFailedBatchOfAFlushReturns()
-    {
+    void onlyTheFailedBatchOfAFlushReturns() {
         LoopbackIngestion server;
         QVERIFY(server.listen());
         server.script({{500, {}}, {200, {}}});
@@ -153,14 +143,13 @@ private slots:
         QCOMPARE(server.requests[2].eventNames(), names(0, 25));
     }
 
-    void unencodableBatchStaysQueued()
-    {
+    void unencodableBatchStaysQueued() {
         LoopbackIngestion server;
         QVERIFY(server.listen());
         CapturedLines captured;
         auto client = clientFor(server.baseUrl());
-        client->trackEvent("nan", {{"x", AnyCodableValue::doubleValue(
-                                             std::numeric_limits<double>::quiet_NaN())}});
+        client->trackEvent(
+            "nan", {{"x", AnyCodableValue::doubleValue(std::numeric_limits<double>::quiet_NaN())}});
         QVERIFY(flushAndWait(*client));
         QVERIFY(flushAndWait(*client));
         QCOMPARE(captured.lines.size(), 2);
@@ -169,8 +158,7 @@ private slots:
         QCOMPARE(server.requests.size(), 0);
     }
 
-    void eventsWaitForPollingAndStopFlushesOnce()
-    {
+    void eventsWaitForPollingAndStopFlushesOnce() {
         LoopbackIngestion server;
         QVERIFY(server.listen());
         auto client = clientFor(server.baseUrl(), 0.02);
@@ -194,8 +182,7 @@ private slots:
         QCOMPARE(server.requests[2].eventNames(), names(2, 3));
     }
 
-    void tickDuringATimerFlushIsSkipped()
-    {
+    void tickDuringATimerFlushIsSkipped() {
         LoopbackIngestion server;
         QVERIFY(server.listen());
         auto client = clientFor(server.baseUrl(), 0.02);
@@ -216,8 +203,7 @@ private slots:
         QCOMPARE(server.mostOpenRequests, 1);
     }
 
-    void sessionRenewsAfterMoreThanAnHourOfSilence()
-    {
+    void sessionRenewsAfterMoreThanAnHourOfSilence() {
         LoopbackIngestion server;
         QVERIFY(server.listen());
         server.validateTimestamps = false;
@@ -244,19 +230,6 @@ private slots:
         QCOMPARE(sent, (QStringList{first, first, first, first, second}));
         QCOMPARE(server.requests[0].events().last()["timestamp"].toString(),
                  QString("2023-11-15T01:53:20Z"));
-    }
-
-    void flushIntervalFollowsBuildUnlessGiven()
-    {
-        EnvironmentInfo env;
-        for (bool debug : {true, false}) {
-            env.isDebug = debug;
-            const AptabaseClient byBuild(appKey, "http://127.0.0.1:9", env, std::nullopt);
-            QCOMPARE(byBuild.flushInterval(), debug ? 2.0 : 60.0);
-            const AptabaseClient given(appKey, "http://127.0.0.1:9", env,
-                                       InitOptions({}, 7.5, TrackingMode::asRelease()));
-            QCOMPARE(given.flushInterval(), 7.5);
-        }
     }
 };
 

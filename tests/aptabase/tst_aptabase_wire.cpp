@@ -8,30 +8,31 @@
 #include <QThread>
 #include <QTimeZone>
 
-class TestAptabaseWire : public QObject
-{
+class TestAptabaseWire : public QObject {
     Q_OBJECT
 private slots:
-    void osVersionHasThreeIntegers_data()
-    {
+    void osVersionHasThreeIntegers_data() {
         QTest::addColumn<QString>("product");
         QTest::addColumn<QString>("padded");
-        QTest::newRow("major only") << "12" << "12.0.0";
-        QTest::newRow("leading zero") << "22.04" << "22.4.0";
-        QTest::newRow("four parts") << "1.2.3.4" << "1.2.3";
-        QTest::newRow("not a number") << "n/a" << "0.0.0";
-        QTest::newRow("empty") << "" << "0.0.0";
+        QTest::newRow("major only") << "12"
+                                    << "12.0.0";
+        QTest::newRow("leading zero") << "22.04"
+                                      << "22.4.0";
+        QTest::newRow("four parts") << "1.2.3.4"
+                                    << "1.2.3";
+        QTest::newRow("not a number") << "n/a"
+                                      << "0.0.0";
+        QTest::newRow("empty") << ""
+                               << "0.0.0";
     }
 
-    void osVersionHasThreeIntegers()
-    {
+    void osVersionHasThreeIntegers() {
         QFETCH(QString, product);
         QFETCH(QString, padded);
         QCOMPARE(EnvironmentInfo::paddedVersion(product), padded);
     }
 
-    void deviceModelFallsBackInOrder()
-    {
+    void deviceModelFallsBackInOrder() {
         QTemporaryDir dir;
         const QString dmi = dir.filePath("product_name");
         const QString tree = dir.filePath("model");
@@ -56,8 +57,7 @@ private slots:
         qunsetenv("SIMULATOR_MODEL_IDENTIFIER");
     }
 
-    void timestampIsUtcInWholeSeconds()
-    {
+    void timestampIsUtcInWholeSeconds() {
         const QDateTime berlin(QDate(2024, 3, 10), QTime(23, 59, 59, 999),
                                QTimeZone("Europe/Berlin"));
         QCOMPARE(Event::formatTimestamp(berlin), "2024-03-10T22:59:59Z");
@@ -65,8 +65,7 @@ private slots:
         QCOMPARE(Event::formatTimestamp(offset), "2000-01-01T01:30:00Z");
     }
 
-    void eventPropsAreAlwaysAnObject()
-    {
+    void eventPropsAreAlwaysAnObject() {
         Event event;
         event.props = CodableProps();
         QCOMPARE(event.toJson()->value("props"), QJsonValue(QJsonObject()));
@@ -75,19 +74,18 @@ private slots:
         const QJsonObject props = event.toJson()->value("props").toObject();
         QCOMPARE(props.value("f").toDouble(), 0.1);
         QCOMPARE(props.value("i").toInteger(), -(qint64(1) << 53) - 1);
-        event.props = {{"inf", AnyCodableValue::floatValue(std::numeric_limits<float>::infinity())}};
+        event.props = {
+            {"inf", AnyCodableValue::floatValue(std::numeric_limits<float>::infinity())}};
         QVERIFY(!event.toJson());
     }
 
-    void debugLinesAreQuotedAndEscaped()
-    {
+    void debugLinesAreQuotedAndEscaped() {
         QCOMPARE(DebugPrint::quoted("plain ✅"), "\"plain ✅\"");
         QCOMPARE(DebugPrint::quoted("say \"hi\" it's C:\\ \n\t\r\x01"),
                  "\"say \\\"hi\\\" it\\'s C:\\\\ \\n\\t\\r\\u{1}\"");
     }
 
-    void queueKeepsOrderAcrossThreads()
-    {
+    void queueKeepsOrderAcrossThreads() {
         ConcurrentQueue<int> queue;
         queue.enqueue(1);
         queue.enqueue(QList<int>{2, 3, 4});
