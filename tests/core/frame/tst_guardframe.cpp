@@ -1,0 +1,210 @@
+#include "ConsoleCapture.h"
+#include "FakeClock.h"
+#include "FakeHandlerDatabase.h"
+#include "FakeTimerFactory.h"
+#include "TempSettings.h"
+#include "core/guard/BrowserManager.h"
+#include "core/guard/EmailClientManager.h"
+
+#include <QSettings>
+#include <QSignalSpy>
+#include <QTest>
+
+#include <memory>
+
+// The frame both guards share: first-launch defaults, settings over the store, the
+// order in which a setter stores, acts and tells, and the construction sequence.
+class GuardFrameTest : public QObject {
+    Q_OBJECT
+
+    struct World {
+        TempSettings settings;
+        FakeHandlerDatabase handlers;
+        FakeClock clock;
+        FakeTimerFactory timers;
+        GuardEnvironment environment()
+        {
+            GuardEnvironment env;
+            env.settings = &settings.store();
+            env.handlers = &handlers;
+            env.clock = &clock;
+            env.timers = &timers;
+            return env;
+        }
+    };
+
+private Q_SLOTS:
+    void firstLaunchWritesTheDefaultsOnce()
+    {
+        World world;
+        {
+            ConsoleCapture console;
+            BrowserManager browser(world.environment());
+            EmailClientManager email(world.environment());
+            QCOMPARE(console.count("✨ First launch - defaults set"), 1);
+            QCOMPARE(console.count("✨ Email: First launch - defaults set"), 1);
+        }
+        QSettings file(world.settings.path(), QSettings::IniFormat);
+        QStringList keys = file.allKeys();
+        keys.sort();
+        QCOMPARE(keys, QStringList({"checkInterval", "checkOnLogin", "checkOnUnlock", "checkOnWake",
+                                    "emailCheckInterval", "emailCheckOnLogin", "emailCheckOnUnlock",
+                                    "emailCheckOnWake", "emailMonitoringEnabled",
+                                    "emailSnoozeDuration", "hasLaunchedBefore",
+                                    "hasLaunchedBeforeEmail", "monitoringEnabled",
+                                    "snoozeDuration"}));
+        QCOMPARE(file.value("checkInterval").toString(), QString("10min"));
+        QCOMPARE(file.value("emailSnoozeDuration").toString(), QString("1hour"));
+
+        world.settings.reopen();
+        ConsoleCapture console;
+        BrowserManager again(world.environment());
+        EmailClientManager emailAgain(world.environment());
+        QVERIFY(console.startingWith("✨").isEmpty());
+        QVERIFY(again.monitoringEnabled() && emailAgain.checkOnLogin());
+    }
+
+    void eachGuardHasItsOwnMarker()
+    {
+        World world;
+        world.settings.store().setBool("hasLaunchedBefore", true);
+        ConsoleCapture console;
+        BrowserManager browser(world.environment());
+        EmailClientManager email(world.environment());
+        QCOMPARE(console.startingWith("✨"), QStringList({"✨ Email: First launch - defaults set"}));
+        // The marker alone: the switches read their absent defaults, not the first-launch values.
+        QVERIFY(!browser.monitoringEnabled());
+        QVERIFY(!browser.checkOnWake() && !browser.checkOnUnlock() && !browser.checkOnLogin());
+        QVERIFY(!browser.isProtected());
+        QVERIFY(email.isProtected());
+    }
+
+    void unreadableValuesReadAsDefaultsAndStayStored()
+    {
+        World world;
+        SettingsStore &store = world.settings.store();
+        store.setBool("hasLaunchedBefore", true);
+        store.setData("targetDefaultBrowser", "\x89not json at all");
+        store.setString("checkInterval", "fortnightly");
+        store.setString("snoozeDuration", "forever");
+        store.setString("monitoringEnabled", "sure");
+        store.setString("lastBrowserChange", "yesterday");
+        for (SettingsStore *s : {&store, &world.settings.reopen()}) {
+            GuardEnvironment env = world.environment();
+            env.settings = s;
+            BrowserManager browser(env);
+            QVERIFY(!browser.targetDefaultBrowser());
+            QCOMPARE(browser.checkInterval(), CheckInterval::tenMinutes);
+            QCOMPARE(browser.snoozeDuration(), SnoozeDuration::oneHour);
+            QVERIFY(!browser.monitoringEnabled());
+            QVERIFY(!browser.lastBrowserChange());
+        }
+        SettingsStore &after = world.settings.reopen();
+        QCOMPARE(after.dataValue("targetDefaultBrowser"), QByteArray("\x89not json at all"));
+        QCOMPARE(after.stringValue("checkInterval"), QString("fortnightly"));
+    }
+
+    void aTargetIsStoredAsItsRecordAndRemovedByNone()
+    {
+        World world;
+        BrowserManager browser(world.environment());
+        const Browser firefox("Firefox", "firefox-esr", QString("/usr/share/applications/firefox-esr.desktop"));
+        browser.setTargetDefaultBrowser(firefox);
+        const auto stored = world.settings.reopen().dataValue("targetDefaultBrowser");
+        QCOMPARE(stored, firefox.toJson());
+        GuardEnvironment env = world.environment();
+        BrowserManager restarted(env);
+        QCOMPARE(restarted.targetDefaultBrowser()->id, firefox.id);
+        restarted.setTargetDefaultBrowser(std::nullopt);
+        QVERIFY(!world.settings.store().contains("targetDefaultBrowser"));
+        QVERIFY(!restarted.targetDefaultBrowser());
+    }
+
+    void settersStoreBeforeTheyTellAndTellEveryTime()
+    {
+        World world;
+        BrowserManager browser(world.environment());
+        QStringList seen;
+        connect(&browser, &HandlerGuard::objectWillChange, this, [&] {
+            seen << world.settings.store().stringValue("snoozeDuration").value_or("-");
+        });
+        browser.setSnoozeDuration(SnoozeDuration::fourHours);
+        browser.setSnoozeDuration(SnoozeDuration::fourHours);
+        QCOMPARE(seen, QStringList({"4hours", "4hours"}));
+
+        QSignalSpy spy(&browser, &HandlerGuard::objectWillChange);
+        browser.setCheckOnWake(false);
+        browser.setBrowserChangeCount(3);
+        browser.setLastBrowserChange(std::nullopt);
+        QCOMPARE(spy.count(), 3);
+    }
+
+    void isProtectedNeedsMonitoringAndOneTrigger()
+    {
+        World world;
+        EmailClientManager email(world.environment());
+        QVERIFY(email.isProtected());
+        email.setCheckInterval(CheckInterval::none);
+        QVERIFY(email.isProtected()); // the event switches still fire
+        email.setCheckOnWake(false);
+        email.setCheckOnUnlock(false);
+        QVERIFY(email.isProtected());
+        email.setCheckOnLogin(false);
+        QVERIFY(!email.isProtected());
+        email.setCheckInterval(CheckInterval::daily);
+        QVERIFY(email.isProtected());
+        email.setMonitoringEnabled(false);
+        QVERIFY(!email.isProtected());
+    }
+
+    void resetToDefaultsKeepsTheTargetAndTheMarker()
+    {
+        World world;
+        BrowserManager browser(world.environment());
+        browser.setTargetDefaultBrowser(Browser("Chromium", "chromium"));
+        browser.setMonitoringEnabled(false);
+        browser.setCheckInterval(CheckInterval::daily);
+        browser.setCheckOnUnlock(false);
+        browser.setBrowserChangeCount(7);
+        browser.setLastBrowserChange(world.clock.now());
+        ConsoleCapture console;
+        browser.resetToDefaults();
+        QVERIFY(browser.monitoringEnabled());
+        QCOMPARE(browser.checkInterval(), CheckInterval::tenMinutes);
+        QVERIFY(browser.checkOnUnlock());
+        QCOMPARE(browser.browserChangeCount(), 0);
+        QVERIFY(!browser.lastBrowserChange());
+        QCOMPARE(browser.targetDefaultBrowser()->bundleIdentifier, QString("chromium"));
+        QVERIFY(world.settings.store().boolValue("hasLaunchedBefore"));
+        QCOMPARE(console.lines().last(), QString("🔄 Browser counters reset"));
+    }
+
+    void constructionResolvesTheDefaultAndSchedulesTheLoginCheck()
+    {
+        World world;
+        world.handlers.install("firefox-esr", QString("Firefox ESR"));
+        world.handlers.setHandlers("https", {"firefox-esr"});
+        GuardEnvironment env = world.environment();
+        env.launchedAtLogin = true;
+        ConsoleCapture console;
+        BrowserManager browser(env);
+        QCOMPARE(browser.currentDefaultBrowser()->name, QString("Firefox ESR"));
+        const QStringList lines = console.lines();
+        QVERIFY(lines.indexOf("✨ First launch - defaults set") < lines.indexOf("🚀 Launched at login"));
+        QVERIFY(lines.indexOf("📊 Total: 0") < lines.indexOf("🚀 Launched at login"));
+        QCOMPARE(world.timers.activeWithInterval(std::chrono::milliseconds(2000)).size(), 1);
+
+        // Without the login switch the launch is not even looked at.
+        World other;
+        other.settings.store().setBool("hasLaunchedBefore", true);
+        GuardEnvironment env2 = other.environment();
+        env2.launchedAtLogin = true;
+        ConsoleCapture quiet;
+        BrowserManager notAtLogin(env2);
+        QVERIFY(!quiet.contains("🚀 Launched at login"));
+        QVERIFY(other.timers.activeWithInterval(std::chrono::milliseconds(2000)).isEmpty());
+    }
+};
+
+QTEST_GUILESS_MAIN(GuardFrameTest)
+#include "tst_guardframe.moc"

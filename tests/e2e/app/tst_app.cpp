@@ -1,0 +1,177 @@
+#include "XdgTree.h"
+
+#include <QFile>
+#include <QJsonDocument>
+#include <QJsonObject>
+#include <QProcess>
+#include <QRegularExpression>
+#include <QTest>
+
+// The real program over a temporary XDG tree with desktop entries from Debian's
+// packages: what `--status` resolves must be what GIO resolves, after changes made by
+// each of the desktop's own tools; and only one copy runs.
+class AppTest : public QObject {
+    Q_OBJECT
+
+    std::unique_ptr<XdgTree> m_tree;
+
+    // A real entry, its programs replaced by stubs so GIO counts it as installed.
+    void installFixture(const QString &file)
+    {
+        QFile in(QStringLiteral(FIXTURES_DIR) + u'/' + file);
+        QVERIFY(in.open(QIODevice::ReadOnly));
+        QString text = QString::fromUtf8(in.readAll());
+        static const QRegularExpression exec(QStringLiteral("^(Exec|TryExec)=(\\S+)"),
+                                             QRegularExpression::MultilineOption);
+        QString result;
+        qsizetype last = 0;
+        for (auto it = exec.globalMatch(text); it.hasNext();) {
+            const auto match = it.next();
+            const QString stub = m_tree->stub(match.captured(2).section(u'/', -1));
+            result += text.mid(last, match.capturedStart(2) - last) + stub;
+            last = match.capturedEnd(2);
+        }
+        result += text.mid(last);
+        m_tree->write(u"share1/applications/" + file, result.toUtf8());
+    }
+
+    static QJsonObject status()
+    {
+        QProcess process;
+        process.start(QStringLiteral(VANDOREL_BINARY), {QStringLiteral("--status")});
+        if (!process.waitForFinished(30000) || process.exitCode() != 0)
+            return {};
+        return QJsonDocument::fromJson(process.readAllStandardOutput()).object();
+    }
+
+    static QString currentId(const QJsonObject &report, const char *side)
+    {
+        const QJsonValue current = report.value(QLatin1StringView(side)).toObject().value(u"current");
+        return current.isObject() ? current.toObject().value(u"bundleIdentifier").toString() : QString();
+    }
+
+    static QString gioDefault(const char *scheme)
+    {
+        QString id = XdgTree::gioMime(QStringLiteral("x-scheme-handler/") + QLatin1StringView(scheme)).defaultId;
+        return id.endsWith(u".desktop") ? id.chopped(8) : id;
+    }
+
+    static bool run(const QString &program, const QStringList &arguments)
+    {
+        QProcess process;
+        process.start(program, arguments);
+        return process.waitForFinished(60000) && process.exitCode() == 0;
+    }
+
+    QString settingsPath() const
+    {
+        return m_tree->path(QStringLiteral("config/io.kestrane.vandorel/settings.ini"));
+    }
+
+private Q_SLOTS:
+    void init()
+    {
+        m_tree = std::make_unique<XdgTree>();
+        installFixture(QStringLiteral("firefox-esr.desktop"));
+        installFixture(QStringLiteral("chromium.desktop"));
+        installFixture(QStringLiteral("thunderbird.desktop"));
+        m_tree->entry(QStringLiteral("share2/applications"), QStringLiteral("claws-mail.desktop"),
+                      "x-scheme-handler/mailto;");
+        m_tree->updateCaches();
+    }
+
+    void cleanup() { m_tree.reset(); }
+
+    void statusFollowsWhatGioResolves()
+    {
+        QVERIFY(run(QStringLiteral("xdg-mime"), {"default", "firefox-esr.desktop", "x-scheme-handler/https",
+                                                 "x-scheme-handler/http"}));
+        QVERIFY(run(QStringLiteral("xdg-mime"), {"default", "thunderbird.desktop", "x-scheme-handler/mailto"}));
+        QJsonObject report = status();
+        QCOMPARE(currentId(report, "browser"), QString("firefox-esr"));
+        QCOMPARE(currentId(report, "browser"), gioDefault("https"));
+        QCOMPARE(currentId(report, "email"), gioDefault("mailto"));
+        const QJsonObject browser = report.value(u"browser").toObject();
+        QCOMPARE(browser.value(u"current").toObject().value(u"name").toString(), QString("Firefox ESR"));
+        QVERIFY(browser.value(u"target").isNull());
+        QCOMPARE(browser.value(u"status").toString(), QString("notProtected"));
+
+        QVERIFY(run(QStringLiteral("gio"), {"mime", "x-scheme-handler/https", "chromium.desktop"}));
+        QVERIFY(run(QStringLiteral("gio"), {"mime", "x-scheme-handler/mailto", "claws-mail.desktop"}));
+        report = status();
+        QCOMPARE(currentId(report, "browser"), QString("chromium"));
+        QCOMPARE(currentId(report, "browser"), gioDefault("https"));
+        QCOMPARE(currentId(report, "email"), QString("claws-mail"));
+        QCOMPARE(currentId(report, "email"), gioDefault("mailto"));
+
+        // xdg-settings changes http and https together.
+        QVERIFY(run(QStringLiteral("xdg-settings"), {"set", "default-web-browser", "firefox-esr.desktop"}));
+        report = status();
+        QCOMPARE(currentId(report, "browser"), QString("firefox-esr"));
+        QCOMPARE(currentId(report, "browser"), gioDefault("https"));
+
+        // Nothing was written: no settings file, no first-launch defaults.
+        QVERIFY(!QFile::exists(settingsPath()));
+    }
+
+    void statusReadsTargetsAndSwitchesFromTheStore()
+    {
+        QVERIFY(run(QStringLiteral("gio"), {"mime", "x-scheme-handler/https", "chromium.desktop"}));
+        m_tree->write(QStringLiteral("config/io.kestrane.vandorel/settings.ini"),
+                      "[General]\nmonitoringEnabled=true\ncheckInterval=5min\n"
+                      "targetDefaultBrowser=\"@ByteArray({\\\"id\\\":\\\"6F1C1E3A-27D5-4B8E-9D0A-3C2B1A0F9E8D\\\","
+                      "\\\"name\\\":\\\"Firefox ESR\\\",\\\"bundleIdentifier\\\":\\\"firefox-esr\\\"})\"\n"
+                      "emailMonitoringEnabled=maybe\ntargetDefaultEmailClient=@ByteArray(garbage)\n");
+        const QByteArray before = m_tree->read(QStringLiteral("config/io.kestrane.vandorel/settings.ini"));
+        const QJsonObject report = status();
+        const QJsonObject browser = report.value(u"browser").toObject();
+        QCOMPARE(browser.value(u"target").toObject().value(u"bundleIdentifier").toString(), QString("firefox-esr"));
+        QCOMPARE(browser.value(u"isProtected").toBool(), true);
+        QCOMPARE(browser.value(u"status").toString(), QString("mismatch"));
+        const QJsonObject email = report.value(u"email").toObject();
+        QVERIFY(email.value(u"target").isNull());
+        QCOMPARE(email.value(u"isProtected").toBool(), false);
+        QCOMPARE(email.value(u"status").toString(), QString("notProtected"));
+        QCOMPARE(m_tree->read(QStringLiteral("config/io.kestrane.vandorel/settings.ini")), before);
+    }
+
+    void firstLaunchOnceAndOneCopyOnly()
+    {
+        QProcess first;
+        first.setProcessChannelMode(QProcess::SeparateChannels);
+        QProcessEnvironment env = QProcessEnvironment::systemEnvironment();
+        env.insert(QStringLiteral("QT_QPA_PLATFORM"), QStringLiteral("offscreen"));
+        first.setProcessEnvironment(env);
+        first.start(QStringLiteral(VANDOREL_BINARY));
+        QByteArray out;
+        QTRY_VERIFY_WITH_TIMEOUT((out += first.readAllStandardOutput(),
+                                  out.contains("🚀 App launched -> configure update scheduler")), 20000);
+        QVERIFY(out.contains("✨ First launch - defaults set\n"));
+        QVERIFY(out.contains("✨ Email: First launch - defaults set\n"));
+
+        QProcess second;
+        second.setProcessEnvironment(env);
+        second.start(QStringLiteral(VANDOREL_BINARY));
+        QVERIFY(second.waitForFinished(20000));
+        QCOMPARE(second.exitStatus(), QProcess::NormalExit);
+        QCOMPARE(second.exitCode(), 0);
+        QCOMPARE(second.readAllStandardOutput(), QByteArray("⚠️ Another instance is already running. Exiting...\n"));
+        QCOMPARE(first.state(), QProcess::Running);
+
+        first.terminate();
+        QVERIFY(first.waitForFinished(10000));
+
+        QProcess again;
+        again.setProcessEnvironment(env);
+        again.start(QStringLiteral(VANDOREL_BINARY));
+        QByteArray out2;
+        QTRY_VERIFY_WITH_TIMEOUT((out2 += again.readAllStandardOutput(),
+                                  out2.contains("🚀 App launched")), 20000);
+        QVERIFY(!out2.contains("First launch"));
+        again.kill();
+        again.waitForFinished(5000);
+    }
+};
+
+QTEST_GUILESS_MAIN(AppTest)
+#include "tst_app.moc"
