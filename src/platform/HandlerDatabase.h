@@ -20,9 +20,10 @@ public:
 
     virtual ~HandlerDatabase() = default;
 
-    // Every application that opens URLs of the scheme ("https", "mailto"), the default first.
+    // The locations of every application that opens URLs of the scheme ("https", "mailto"),
+    // the default first.
     virtual QStringList applicationsForScheme(const QString &scheme) const = 0;
-    // The application that opens URLs of the scheme, if any.
+    // The location of the application that opens URLs of the scheme, if any.
     virtual std::optional<QString> defaultApplicationForScheme(const QString &scheme) const = 0;
     // Where the installed application with this identifier lives, if it is installed.
     virtual std::optional<QString> locationForIdentifier(const QString &identifier) const = 0;
