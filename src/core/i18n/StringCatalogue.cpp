@@ -21,11 +21,13 @@ QList<CatalogueEntry> makeEntries()
         {QStringLiteral("snooze_30_minutes"), {}},
         {QStringLiteral("snooze_4_hours"), {}},
         {QStringLiteral("snooze_rest_of_today"), {}},
-        {QStringLiteral("alert_browser_changed_message %@ %@"), {QStringLiteral("%@"), QStringLiteral("%@")}},
+        {QStringLiteral("alert_browser_changed_message %@ %@"),
+         {QStringLiteral("%@"), QStringLiteral("%@")}},
         {QStringLiteral("alert_browser_changed_title"), {}},
         {QStringLiteral("alert_button_change_back"), {}},
         {QStringLiteral("alert_button_keep %@"), {QStringLiteral("%@")}},
-        {QStringLiteral("alert_email_changed_message %@ %@"), {QStringLiteral("%@"), QStringLiteral("%@")}},
+        {QStringLiteral("alert_email_changed_message %@ %@"),
+         {QStringLiteral("%@"), QStringLiteral("%@")}},
         {QStringLiteral("alert_email_changed_title"), {}},
         {QStringLiteral("update_available_message"), {QStringLiteral("%@")}},
         {QStringLiteral("update_available_title"), {}},
@@ -224,7 +226,8 @@ bool StringCatalogue::contains(const QString &key)
 
 QStringList StringCatalogue::specifiersIn(const QString &text)
 {
-    static const QRegularExpression pattern(QStringLiteral("%(%|(?:[0-9]+\\$)?(@|lld|llu|ld|lu|d|i|u))"));
+    static const QRegularExpression pattern(
+        QStringLiteral("%(%|(?:[0-9]+\\$)?(@|lld|llu|ld|lu|d|i|u))"));
     QStringList found;
     auto it = pattern.globalMatch(text);
     while (it.hasNext()) {

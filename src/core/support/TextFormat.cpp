@@ -4,34 +4,48 @@
 
 namespace {
 
-constexpr std::array<QLatin1StringView, 7> integerSpecifiers = {
-    QLatin1StringView("lld"), QLatin1StringView("llu"), QLatin1StringView("ld"),
-    QLatin1StringView("lu"),  QLatin1StringView("d"),   QLatin1StringView("i"),
-    QLatin1StringView("u")};
+enum class Kind { text, signedInteger, unsignedInteger };
 
-// Length of the conversion at `pos` ("@" or one of the integer forms), 0 if none.
-qsizetype conversionLength(const QString &pattern, qsizetype pos, bool *isText)
+struct Conversion {
+    QLatin1StringView spelling;
+    Kind kind;
+};
+
+// Longer spellings first, so "lld" is not read as "l" followed by text.
+constexpr std::array<Conversion, 8> conversions = {{
+    {QLatin1StringView("@"), Kind::text},
+    {QLatin1StringView("lld"), Kind::signedInteger},
+    {QLatin1StringView("llu"), Kind::unsignedInteger},
+    {QLatin1StringView("ld"), Kind::signedInteger},
+    {QLatin1StringView("lu"), Kind::unsignedInteger},
+    {QLatin1StringView("d"), Kind::signedInteger},
+    {QLatin1StringView("i"), Kind::signedInteger},
+    {QLatin1StringView("u"), Kind::unsignedInteger},
+}};
+
+const Conversion *conversionAt(const QString &pattern, qsizetype pos)
 {
-    if (pos < pattern.size() && pattern.at(pos) == u'@') {
-        *isText = true;
-        return 1;
-    }
-    *isText = false;
     const QStringView rest = QStringView(pattern).mid(pos);
-    for (QLatin1StringView spec : integerSpecifiers) {
-        if (rest.startsWith(spec))
-            return spec.size();
+    for (const Conversion &conversion : conversions) {
+        if (rest.startsWith(conversion.spelling))
+            return &conversion;
     }
-    return 0;
+    return nullptr;
 }
 
-QString render(const QVariant &value, bool asText)
+QString render(const QVariant &value, Kind kind)
 {
     if (!value.isValid())
         return {};
-    if (asText)
+    switch (kind) {
+    case Kind::text:
         return value.toString();
-    return QString::number(value.toLongLong());
+    case Kind::signedInteger:
+        return QString::number(value.toLongLong());
+    case Kind::unsignedInteger:
+        return QString::number(value.toULongLong());
+    }
+    return {};
 }
 
 } // namespace
@@ -57,20 +71,21 @@ QString TextFormat::format(const QString &pattern, const QVariantList &values)
         qsizetype digitsEnd = pos;
         while (digitsEnd < pattern.size() && pattern.at(digitsEnd).isDigit())
             ++digitsEnd;
+        bool positional = false;
         if (digitsEnd > pos && digitsEnd < pattern.size() && pattern.at(digitsEnd) == u'$') {
+            positional = true;
             index = pattern.mid(pos, digitsEnd - pos).toLongLong() - 1;
             pos = digitsEnd + 1;
         }
-        bool asText = false;
-        const qsizetype length = conversionLength(pattern, pos, &asText);
-        if (length == 0) {
+        const Conversion *conversion = conversionAt(pattern, pos);
+        if (!conversion || (positional && index < 0)) { // "%0$@" names no value
             out += c;
             continue;
         }
-        if (index < 0)
+        if (!positional)
             index = next++;
-        out += render(values.value(index), asText);
-        i = pos + length - 1;
+        out += render(values.value(index), conversion->kind);
+        i = pos + conversion->spelling.size() - 1;
     }
     return out;
 }

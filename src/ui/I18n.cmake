@@ -1,0 +1,1 @@
+target_sources(vandorel_ui PRIVATE LocalizedText.cpp)
