@@ -2,6 +2,7 @@
 
 #include "platform/HandlerDatabase.h"
 #include "platform/SingleInstance.h"
+#include "platform/SystemEvents.h"
 
 #include <memory>
 
@@ -11,4 +12,5 @@ class PlatformBackend {
 public:
     static std::unique_ptr<HandlerDatabase> createHandlerDatabase();
     static std::unique_ptr<SingleInstance> createSingleInstance(const QString &appId);
+    static std::unique_ptr<SystemEvents> createSystemEvents();
 };

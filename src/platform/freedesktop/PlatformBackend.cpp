@@ -1,6 +1,7 @@
 #include "platform/PlatformBackend.h"
 
 #include "platform/freedesktop/FreedesktopHandlerDatabase.h"
+#include "platform/freedesktop/FreedesktopSystemEvents.h"
 #include "platform/freedesktop/LockFileSingleInstance.h"
 
 std::unique_ptr<HandlerDatabase> PlatformBackend::createHandlerDatabase()
@@ -11,4 +12,9 @@ std::unique_ptr<HandlerDatabase> PlatformBackend::createHandlerDatabase()
 std::unique_ptr<SingleInstance> PlatformBackend::createSingleInstance(const QString &appId)
 {
     return std::make_unique<LockFileSingleInstance>(appId);
+}
+
+std::unique_ptr<SystemEvents> PlatformBackend::createSystemEvents()
+{
+    return std::make_unique<FreedesktopSystemEvents>();
 }

@@ -1,0 +1,148 @@
+#include "ConsoleCapture.h"
+#include "FakeClock.h"
+#include "FakeHandlerDatabase.h"
+#include "FakeLogind.h"
+#include "FakeTimerFactory.h"
+#include "PrivateBuses.h"
+#include "TempSettings.h"
+#include "core/guard/BrowserManager.h"
+#include "core/guard/EmailClientManager.h"
+#include "platform/freedesktop/FreedesktopSystemEvents.h"
+
+#include <QDBusConnectionInterface>
+#include <QSignalSpy>
+#include <QTest>
+
+// Wake and unlock reach the guards over real (private) buses: a system-like bus where a
+// fake logind lives, and a session bus where a screen saver may or may not own its name.
+class SystemEventsTest : public QObject {
+    Q_OBJECT
+
+    std::unique_ptr<PrivateBuses> m_buses;
+
+    QDBusConnection screenSaverBus()
+    {
+        return QDBusConnection::connectToBus(m_buses->sessionAddress(), QStringLiteral("screensaver"));
+    }
+
+    static void screenSaverActive(QDBusConnection &bus, bool active)
+    {
+        QDBusMessage signal = QDBusMessage::createSignal(QStringLiteral("/org/freedesktop/ScreenSaver"),
+                                                         QStringLiteral("org.freedesktop.ScreenSaver"),
+                                                         QStringLiteral("ActiveChanged"));
+        signal << active;
+        bus.send(signal);
+    }
+
+    // Lets the bus carry a signal to us and back; a wait that ends early is a failure
+    // only where a signal was expected.
+    static void settle() { QTest::qWait(150); }
+
+private Q_SLOTS:
+    void initTestCase()
+    {
+        m_buses = std::make_unique<PrivateBuses>();
+        QVERIFY(m_buses->isRunning());
+        QVERIFY(QDBusConnection::systemBus().isConnected());
+        QVERIFY(QDBusConnection::sessionBus().isConnected());
+    }
+
+    void cleanupTestCase() { m_buses.reset(); }
+
+    void wakeIsTheEndOfSleep()
+    {
+        FakeLogind logind(m_buses->systemAddress());
+        FreedesktopSystemEvents events;
+        QSignalSpy wakes(&events, &SystemEvents::didWake);
+        logind.sleep(true);
+        settle();
+        QCOMPARE(wakes.count(), 0);
+        logind.sleep(false);
+        QTRY_COMPARE(wakes.count(), 1);
+    }
+
+    void aScreenSaverOnTheSessionBusIsTheUnlockSource()
+    {
+        FakeLogind logind(m_buses->systemAddress());
+        QDBusConnection saver = screenSaverBus();
+        QVERIFY(saver.registerService(QStringLiteral("org.freedesktop.ScreenSaver")));
+        logind.setLocked(true);
+        FreedesktopSystemEvents events;
+        QCOMPARE(events.unlockSource(), FreedesktopSystemEvents::UnlockSource::screenSaver);
+        QSignalSpy unlocks(&events, &SystemEvents::screenUnlocked);
+
+        screenSaverActive(saver, true);
+        settle();
+        QCOMPARE(unlocks.count(), 0);
+        screenSaverActive(saver, false);
+        QTRY_COMPARE(unlocks.count(), 1);
+        // logind's hint is not listened to as well: one unlock is one event.
+        logind.lockedHintChanged(false);
+        settle();
+        QCOMPARE(unlocks.count(), 1);
+
+        saver.unregisterService(QStringLiteral("org.freedesktop.ScreenSaver"));
+        QDBusConnection::disconnectFromBus(QStringLiteral("screensaver"));
+    }
+
+    void withoutAScreenSaverTheSessionLockHintIsWatched()
+    {
+        FakeLogind logind(m_buses->systemAddress());
+        logind.setLocked(true);
+        FreedesktopSystemEvents events;
+        QCOMPARE(events.unlockSource(), FreedesktopSystemEvents::UnlockSource::logindSession);
+        QSignalSpy unlocks(&events, &SystemEvents::screenUnlocked);
+        logind.lockedHintChanged(false);
+        QTRY_COMPARE(unlocks.count(), 1);
+        logind.lockedHintChanged(false); // no lock in between: no unlock
+        settle();
+        QCOMPARE(unlocks.count(), 1);
+        logind.lockedHintChanged(true);
+        logind.lockedHintChanged(false);
+        QTRY_COMPARE(unlocks.count(), 2);
+    }
+
+    void withNeitherSourceNothingFires()
+    {
+        FreedesktopSystemEvents events; // no logind, no screen saver on the buses
+        QCOMPARE(events.unlockSource(), FreedesktopSystemEvents::UnlockSource::none);
+    }
+
+    void eventsRunTheCheckOnlyWhenTheirSwitchIsOn()
+    {
+        FakeLogind logind(m_buses->systemAddress());
+        FreedesktopSystemEvents events;
+        TempSettings settings;
+        FakeHandlerDatabase handlers;
+        FakeClock clock;
+        FakeTimerFactory timers;
+        GuardEnvironment env;
+        env.settings = &settings.store();
+        env.handlers = &handlers;
+        env.clock = &clock;
+        env.timers = &timers;
+        env.events = &events;
+        BrowserManager browser(env);
+        EmailClientManager email(env);
+        handlers.install("firefox-esr", QString("Firefox ESR"));
+        handlers.setHandlers("https", {"firefox-esr"});
+
+        ConsoleCapture console;
+        logind.sleep(false);
+        QTRY_COMPARE(console.startingWith("🔍").size(), 2);
+        QVERIFY(console.contains("🔍 Checking after wake"));
+        QVERIFY(console.contains("🔍 Email: Checking after wake"));
+        // The check resolves the default afresh.
+        QCOMPARE(browser.currentDefaultBrowser()->bundleIdentifier, QString("firefox-esr"));
+
+        console.take();
+        browser.setCheckOnWake(false);
+        logind.sleep(false);
+        QTRY_COMPARE(console.startingWith("🔍").size(), 1);
+        settle();
+        QCOMPARE(console.startingWith("🔍"), QStringList({"🔍 Email: Checking after wake"}));
+    }
+};
+
+QTEST_GUILESS_MAIN(SystemEventsTest)
+#include "tst_systemevents.moc"
