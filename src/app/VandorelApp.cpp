@@ -23,10 +23,12 @@ VandorelApp::VandorelApp(const Options &options)
     m_handlers = PlatformBackend::createHandlerDatabase();
     m_clock = std::make_unique<SystemClock>();
     m_timers = std::make_unique<QtTimerFactory>();
+    m_events = PlatformBackend::createSystemEvents();
     m_environment.settings = &SettingsStore::standard();
     m_environment.handlers = m_handlers.get();
     m_environment.clock = m_clock.get();
     m_environment.timers = m_timers.get();
+    m_environment.events = m_events.get();
     m_environment.launchedAtLogin = options.launchedAtLogin;
 
     m_delegate = new AppDelegate(this);

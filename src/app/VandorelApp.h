@@ -12,6 +12,7 @@ class Clock;
 class EmailClientManager;
 class HandlerDatabase;
 class SingleInstance;
+class SystemEvents;
 class TimerFactory;
 
 // Builds and wires the running program: refuses a second copy, starts the process-wide
@@ -36,6 +37,7 @@ private:
     std::unique_ptr<HandlerDatabase> m_handlers;
     std::unique_ptr<Clock> m_clock;
     std::unique_ptr<TimerFactory> m_timers;
+    std::unique_ptr<SystemEvents> m_events;
     GuardEnvironment m_environment;
     std::unique_ptr<BrowserManager> m_browserManager;
     std::unique_ptr<EmailClientManager> m_emailClientManager;
