@@ -3,6 +3,7 @@
 #include "core/guard/DefaultResolver.h"
 #include "core/guard/GuardProfile.h"
 #include "core/guard/GuardSettings.h"
+#include "core/guard/HandlerDetector.h"
 #include "core/guard/ProtectionStatus.h"
 
 namespace {
@@ -19,7 +20,8 @@ QByteArray side(const GuardProfile &profile, SettingsStore &settings,
     // Only getters are called: nothing is written.
     const GuardSettings guardSettings(profile, settings);
     const DefaultResolver resolver(profile, handlers);
-    QList<HandlerRecord> installed;
+    // As a guard does at construction: detect, then resolve (which may add the default).
+    QList<HandlerRecord> installed = HandlerDetector(profile, handlers).detect();
     const auto current = resolver.resolve(installed);
     const auto target = guardSettings.target();
     const bool isProtected = guardSettings.isProtected();
@@ -28,7 +30,11 @@ QByteArray side(const GuardProfile &profile, SettingsStore &settings,
     QByteArray out = "{\"current\":" + recordJson(current);
     out += ",\"target\":" + recordJson(target);
     out += ",\"isProtected\":" + QByteArray(isProtected ? "true" : "false");
-    out += ",\"status\":\"" + status.toUtf8() + "\"}";
+    out += ",\"status\":\"" + status.toUtf8() + "\"";
+    out += ",\"installed\":[";
+    for (qsizetype i = 0; i < installed.size(); ++i)
+        out += (i ? "," : "") + installed.at(i).toJson();
+    out += "]}";
     return out;
 }
 
@@ -36,6 +42,8 @@ QByteArray side(const GuardProfile &profile, SettingsStore &settings,
 
 QByteArray StatusReport::build(SettingsStore &settings, const HandlerDatabase &handlers)
 {
-    return "{\"browser\":" + side(GuardProfile::browser(), settings, handlers)
-           + ",\"email\":" + side(GuardProfile::email(), settings, handlers) + "}\n";
+    // Browser first, so the console lines come in the guards' order.
+    const QByteArray browser = side(GuardProfile::browser(), settings, handlers);
+    const QByteArray email = side(GuardProfile::email(), settings, handlers);
+    return "{\"browser\":" + browser + ",\"email\":" + email + "}\n";
 }

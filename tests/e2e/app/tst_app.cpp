@@ -1,6 +1,7 @@
 #include "XdgTree.h"
 
 #include <QFile>
+#include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
 #include <QProcess>
@@ -35,13 +36,33 @@ class AppTest : public QObject {
         m_tree->write(u"share1/applications/" + file, result.toUtf8());
     }
 
-    static QJsonObject status()
+    // A launchable entry with a stub program.
+    void application(const QString &dataDir, const QString &id, const QByteArray &name,
+                     const QByteArray &mimeTypes, const QByteArray &extra = {})
+    {
+        const QString program = m_tree->stub(id);
+        m_tree->write(dataDir + u"/applications/" + id + u".desktop",
+                      "[Desktop Entry]\nType=Application\nName=" + name + "\nExec=" + program.toUtf8()
+                          + " %u\nMimeType=" + mimeTypes + "\n" + extra);
+    }
+
+    static QJsonObject status(QStringList *consoleLines = nullptr)
     {
         QProcess process;
         process.start(QStringLiteral(VANDOREL_BINARY), {QStringLiteral("--status")});
         if (!process.waitForFinished(30000) || process.exitCode() != 0)
             return {};
+        if (consoleLines)
+            *consoleLines = QString::fromUtf8(process.readAllStandardError()).split(u'\n', Qt::SkipEmptyParts);
         return QJsonDocument::fromJson(process.readAllStandardOutput()).object();
+    }
+
+    static QStringList installedNames(const QJsonObject &report, const char *side)
+    {
+        QStringList names;
+        for (const QJsonValue &record : report.value(QLatin1StringView(side)).toObject().value(u"installed").toArray())
+            names << record.toObject().value(u"name").toString();
+        return names;
     }
 
     static QString currentId(const QJsonObject &report, const char *side)
@@ -112,6 +133,28 @@ private Q_SLOTS:
 
         // Nothing was written: no settings file, no first-launch defaults.
         QVERIFY(!QFile::exists(settingsPath()));
+    }
+
+    void installedListsAreWhatTheNameRulesGiveOnWhatGioSees()
+    {
+        // A known identifier, whatever its name; a registered handler whose name the rules
+        // reject; one they accept through "min"; one GIO refuses (its TryExec is missing).
+        application(QStringLiteral("share1"), QStringLiteral("org.mozilla.firefox"), "Nightly", "x-scheme-handler/https;");
+        application(QStringLiteral("share2"), QStringLiteral("terminal-web"), "Terminal Web Browser", "x-scheme-handler/http;");
+        application(QStringLiteral("share2"), QStringLiteral("admin"), "Admin Panel", "x-scheme-handler/http;");
+        application(QStringLiteral("share2"), QStringLiteral("ghost"), "Ghost Browser Mail",
+                    "x-scheme-handler/https;x-scheme-handler/mailto;", "TryExec=/nonexistent/ghost\n");
+        m_tree->updateCaches();
+        const QStringList registered = XdgTree::gioMime(QStringLiteral("x-scheme-handler/https")).registered;
+        QVERIFY(!registered.contains(QStringLiteral("ghost.desktop")));
+
+        QStringList console;
+        const QJsonObject report = status(&console);
+        // The entries' own names (not their actions'), by code point: capitals first.
+        QCOMPARE(installedNames(report, "browser"),
+                 QStringList({"Admin Panel", "Chromium Web Browser", "Firefox ESR", "Nightly"}));
+        QCOMPARE(installedNames(report, "email"), QStringList({"Thunderbird", "claws-mail"}));
+        QCOMPARE(console, QStringList({"✅ Found: Nightly", "📊 Total: 4", "📧 Email: Total: 2"}));
     }
 
     void statusReadsTargetsAndSwitchesFromTheStore()
