@@ -1,0 +1,86 @@
+#include "ui/SymbolTable.h"
+
+#include <QApplication>
+#include <QImage>
+#include <QPainter>
+#include <QTest>
+
+// Every symbol name the interface uses has a picture, and a tinted symbol is the colour
+// masked by the symbol's shape.
+class SymbolsTest : public QObject {
+    Q_OBJECT
+
+    static int opaquePixels(const QImage &image)
+    {
+        int count = 0;
+        for (int y = 0; y < image.height(); ++y)
+            for (int x = 0; x < image.width(); ++x)
+                count += qAlpha(image.pixel(x, y)) > 0 ? 1 : 0;
+        return count;
+    }
+
+private Q_SLOTS:
+    void everyNameRenders_data()
+    {
+        QTest::addColumn<QString>("symbol");
+        for (const char *name :
+             {"arrow.clockwise", "arrow.counterclockwise", "arrow.down.circle", "arrow.down.circle.fill",
+              "arrow.up.right", "bell.fill", "bell.slash", "bubble.left.and.bubble.right", "chart.bar",
+              "chart.bar.fill", "chart.bar.xaxis", "checkmark.circle.fill", "checkmark.shield.fill",
+              "clock.fill", "cup.and.saucer.fill", "doc.on.doc", "doc.text.magnifyingglass", "envelope",
+              "exclamationmark.shield", "exclamationmark.shield.fill", "globe", "info.circle",
+              "list.bullet.rectangle", "moon.zzz", "moon.zzz.fill", "mug.fill", "shield", "shield.checkered",
+              "shield.fill", "square.and.arrow.up", "trash", "xmark.shield.fill"})
+            QTest::newRow(name) << QString::fromLatin1(name);
+    }
+
+    void everyNameRenders()
+    {
+        QFETCH(QString, symbol);
+        QVERIFY(SymbolTable::contains(symbol));
+        const QImage image = SymbolTable::icon(symbol).pixmap(32, 32).toImage();
+        QVERIFY(!image.isNull());
+        QVERIFY(opaquePixels(image) > 20);
+    }
+
+    // For a person to look at: the status shields in their colours, when asked for.
+    void shieldStrip()
+    {
+        const QString dir = qEnvironmentVariable("VANDOREL_SCREENSHOT_DIR");
+        if (dir.isEmpty())
+            QSKIP("set VANDOREL_SCREENSHOT_DIR to save the picture");
+        QImage strip(5 * 72, 72, QImage::Format_ARGB32);
+        strip.fill(Qt::white);
+        QPainter painter(&strip);
+        const QList<QPair<const char *, QColor>> shields{{"checkmark.shield.fill", QColor(52, 199, 89)},
+                                                         {"exclamationmark.shield.fill", QColor(255, 149, 0)},
+                                                         {"xmark.shield.fill", QColor(255, 59, 48)},
+                                                         {"exclamationmark.shield", Qt::black},
+                                                         {"shield", Qt::black}};
+        for (int i = 0; i < shields.size(); ++i)
+            painter.drawPixmap(i * 72 + 4, 4, SymbolTable::tinted(shields[i].first, shields[i].second, 64));
+        painter.end();
+        QVERIFY(strip.save(dir + QStringLiteral("/symbols-shields.png")));
+    }
+
+    void unknownNamesGiveNothing()
+    {
+        QVERIFY(!SymbolTable::contains("no.such.symbol"));
+        QVERIFY(SymbolTable::icon("no.such.symbol").isNull());
+    }
+
+    void tintShowsOnlyWhereTheShapeIs()
+    {
+        const QImage filled = SymbolTable::tinted("checkmark.shield.fill", QColor(52, 199, 89), 64).toImage();
+        const QImage outline = SymbolTable::tinted("shield", QColor(52, 199, 89), 64).toImage();
+        // Corners lie outside the shield; its middle is inside; the check mark is a hole.
+        QCOMPARE(qAlpha(filled.pixel(1, 1)), 0);
+        QCOMPARE(filled.pixelColor(20, 20).rgb(), QColor(52, 199, 89).rgb());
+        QVERIFY(opaquePixels(filled) > opaquePixels(outline));
+        const int checkX = 28, checkY = 34; // on the check mark's stroke
+        QVERIFY(qAlpha(filled.pixel(checkX, checkY)) < 128);
+    }
+};
+
+QTEST_MAIN(SymbolsTest)
+#include "tst_symbols.moc"
