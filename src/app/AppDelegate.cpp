@@ -2,8 +2,18 @@
 
 #include "core/settings/SettingsStore.h"
 #include "core/support/Console.h"
+#include "core/updates/UpdateManager.h"
+#include "core/updates/UpdateScheduler.h"
 
-AppDelegate::AppDelegate(QObject *parent) : QObject(parent) {}
+AppDelegate::AppDelegate(QObject *parent)
+    : QObject(parent),
+      m_updateScheduler(std::make_unique<UpdateScheduler>(SettingsStore::standard(), m_timers, [] {
+          UpdateManager::shared().checkAutomaticallyAndPresentIfAvailable();
+      }))
+{
+}
+
+AppDelegate::~AppDelegate() = default;
 
 void AppDelegate::applicationDidFinishLaunching()
 {
@@ -15,8 +25,16 @@ void AppDelegate::applicationDidFinishLaunching()
 
 void AppDelegate::applicationWillTerminate()
 {
+    m_updateScheduler->stop();
     disconnect(&SettingsStore::standard(), nullptr, this, nullptr);
 }
 
-void AppDelegate::configureUpdateScheduler() {}
-void AppDelegate::userDefaultsDidChange() {}
+void AppDelegate::configureUpdateScheduler()
+{
+    m_updateScheduler->configureUpdateScheduler();
+}
+
+void AppDelegate::userDefaultsDidChange()
+{
+    m_updateScheduler->userDefaultsDidChange();
+}

@@ -1,6 +1,12 @@
 #pragma once
 
+#include "core/support/QtTimerFactory.h"
+
 #include <QObject>
+
+#include <memory>
+
+class UpdateScheduler;
 
 // The application's life-cycle call-backs: launching done (the event loop's first
 // turn) and about to terminate.
@@ -8,6 +14,7 @@ class AppDelegate : public QObject {
     Q_OBJECT
 public:
     explicit AppDelegate(QObject *parent = nullptr);
+    ~AppDelegate() override;
 
     void applicationDidFinishLaunching();
     void applicationWillTerminate();
@@ -15,4 +22,7 @@ public:
 private:
     void configureUpdateScheduler();
     void userDefaultsDidChange();
+
+    QtTimerFactory m_timers;
+    std::unique_ptr<UpdateScheduler> m_updateScheduler;
 };

@@ -1,0 +1,293 @@
+#include "core/updates/UpdateManager.h"
+
+#include "core/settings/SettingsStore.h"
+#include "core/support/AppInfo.h"
+#include "core/support/Clock.h"
+#include "core/support/Console.h"
+#include "core/support/QtTimerFactory.h"
+#include "core/support/SystemClock.h"
+#include "core/updates/AppcastInput.h"
+#include "core/updates/AppcastParser.h"
+#include "core/updates/AppcastUpdaterController.h"
+#include "core/updates/UpdatePresenter.h"
+#include "core/updates/VersionOrder.h"
+
+#include "BuildConfig.h"
+
+#include <QCoreApplication>
+#include <QFileInfo>
+#include <QNetworkAccessManager>
+#include <QNetworkReply>
+#include <QNetworkRequest>
+
+#include <chrono>
+
+namespace {
+
+UpdateManager *&sharedSlot()
+{
+    static UpdateManager *manager = nullptr;
+    return manager;
+}
+
+const QStringList brewCaskTokens = {QStringLiteral("vandorel"), QStringLiteral("van-dorel")};
+
+QString key(const char *name) { return QString::fromLatin1(name); }
+
+} // namespace
+
+UpdateManager &UpdateManager::shared()
+{
+    UpdateManager *&manager = sharedSlot();
+    if (!manager)
+        manager = new UpdateManager(defaultOptions());
+    return *manager;
+}
+
+void UpdateManager::setShared(UpdateManager *manager)
+{
+    sharedSlot() = manager;
+}
+
+UpdateManager::Options UpdateManager::defaultOptions()
+{
+    static SystemClock clock;
+    static QtTimerFactory timers;
+    Options options;
+    options.settings = &SettingsStore::standard();
+    options.clock = &clock;
+    options.timers = &timers;
+    options.appcastURL = QUrl(QString::fromUtf8(BuildConfig::feedUrl));
+    options.currentVersion = AppInfo::appVersion();
+    options.installPath = QFileInfo(QCoreApplication::applicationFilePath()).canonicalFilePath();
+    options.brewPrefixes = {QStringLiteral("/opt/homebrew"), QStringLiteral("/usr/local")};
+    return options;
+}
+
+UpdateManager::UpdateManager(Options options, QObject *parent)
+    : QObject(parent), m_options(std::move(options))
+{
+}
+
+UpdateManager::~UpdateManager() = default;
+
+bool UpdateManager::isBrewInstall()
+{
+    if (!m_isBrewInstall)
+        m_isBrewInstall = detectBrewInstall(m_options.installPath, m_options.brewPrefixes);
+    return *m_isBrewInstall;
+}
+
+bool UpdateManager::detectBrewInstall(const QString &installPath, const QStringList &brewPrefixes)
+{
+    if (installPath.contains(QLatin1StringView("Caskroom"))) {
+        Console::line(QStringLiteral("🍺 Homebrew install detected via symlink resolution"));
+        return true;
+    }
+    for (const QString &prefix : brewPrefixes) {
+        for (const QString &token : brewCaskTokens) {
+            const QString path = prefix + u"/Caskroom/" + token;
+            if (QFileInfo::exists(path)) {
+                Console::line(u"🍺 Homebrew install detected via Caskroom directory: " + path);
+                return true;
+            }
+        }
+    }
+    Console::line(QStringLiteral("📦 No Homebrew install detected"));
+    return false;
+}
+
+UpdaterController *UpdateManager::sparkleUpdaterController()
+{
+    if (!m_controllerMade) {
+        m_controllerMade = true;
+        if (!isBrewInstall()) {
+            m_sparkleUpdaterController = m_options.makeController
+                ? m_options.makeController(*this)
+                : std::make_unique<AppcastUpdaterController>(*this);
+        }
+    }
+    return m_sparkleUpdaterController.get();
+}
+
+void UpdateManager::setPresenter(std::shared_ptr<UpdatePresenter> presenter)
+{
+    m_presenter = std::move(presenter);
+}
+
+bool UpdateManager::checkForUpdatesWithSparkle()
+{
+    if (isBrewInstall() || !sparkleUpdaterController())
+        return false;
+    if (m_isSparkleCheckInProgress) {
+        Console::line(QStringLiteral("ℹ️ Sparkle check skipped: session already in progress"));
+        return false;
+    }
+    m_isSparkleCheckInProgress = true;
+    // Right after the current work; dropped if the manager is gone by then.
+    QMetaObject::invokeMethod(
+        this,
+        [this] {
+            UpdaterController *controller = sparkleUpdaterController();
+            controller->startUpdater();
+            controller->checkForUpdates();
+            scheduleSparkleReset();
+        },
+        Qt::QueuedConnection);
+    return true;
+}
+
+void UpdateManager::scheduleSparkleReset()
+{
+    if (m_sparkleResetWorkItem) {
+        m_sparkleResetWorkItem->stop();
+        m_sparkleResetWorkItem->deleteLater();
+    }
+    Timer *workItem = m_options.timers->createTimer(this);
+    connect(workItem, &Timer::timeout, this, [this, workItem] {
+        m_isSparkleCheckInProgress = false;
+        workItem->deleteLater();
+    });
+    m_sparkleResetWorkItem = workItem;
+    workItem->start(std::chrono::seconds(sparkleResetSeconds), false);
+}
+
+void UpdateManager::checkAutomaticallyAndPresentIfAvailable()
+{
+    if (isBrewInstall())
+        return;
+    checkForUpdates([this](bool available, const std::optional<QString> &version) {
+        if (!available || !version)
+            return;
+        if (isSnoozed(*version)) {
+            QString line = u"😴 Auto update reminder snoozed for version " + *version;
+            if (const std::optional<double> remaining = remainingSnoozeSeconds(*version))
+                line += u", remaining: " + QString::number(static_cast<qint64>(*remaining)) + u's';
+            Console::line(line);
+            return;
+        }
+        if (!checkForUpdatesWithSparkle())
+            return;
+        snoozeAutoReminder(*version, autoReminderSnoozeHours);
+        Console::line(u"🔕 Auto update reminder snoozed for "
+                      + QString::number(static_cast<qint64>(autoReminderSnoozeHours)) + u"h (version "
+                      + *version + u')');
+    });
+}
+
+double UpdateManager::nowSeconds() const
+{
+    return static_cast<double>(m_options.clock->now().toMSecsSinceEpoch()) / 1000.0;
+}
+
+void UpdateManager::snoozeAutoReminder(const QString &version, double hours)
+{
+    m_options.settings->setDouble(key(updateSnoozeUntilKey), nowSeconds() + hours * 3600.0);
+    m_options.settings->setString(key(updateSnoozeVersionKey), version);
+}
+
+bool UpdateManager::isSnoozed(const QString &version) const
+{
+    const std::optional<QString> snoozedVersion =
+        m_options.settings->stringValue(key(updateSnoozeVersionKey));
+    if (!snoozedVersion || *snoozedVersion != version)
+        return false;
+    const double until = m_options.settings->doubleValue(key(updateSnoozeUntilKey));
+    if (!(until > 0))
+        return false;
+    return nowSeconds() < until;
+}
+
+std::optional<double> UpdateManager::remainingSnoozeSeconds(const QString &version) const
+{
+    if (!isSnoozed(version))
+        return std::nullopt;
+    const double until = m_options.settings->doubleValue(key(updateSnoozeUntilKey));
+    return std::max(0.0, until - nowSeconds());
+}
+
+void UpdateManager::resetAutoReminderSnooze()
+{
+    m_options.settings->remove(key(updateSnoozeUntilKey));
+    m_options.settings->remove(key(updateSnoozeVersionKey));
+    Console::line(QStringLiteral("🔄 Update reminder snooze reset"));
+}
+
+QNetworkAccessManager &UpdateManager::network()
+{
+    if (!m_network)
+        m_network = new QNetworkAccessManager(this);
+    return *m_network;
+}
+
+void UpdateManager::checkForUpdates(Completion completion)
+{
+    if (m_updateTask)
+        m_updateTask->abort();
+    QNetworkReply *reply = network().get(QNetworkRequest(m_options.appcastURL));
+    m_updateTask = reply;
+    // A body the appcast reader would refuse is not read to its end.
+    auto oversized = std::make_shared<bool>(false);
+    connect(reply, &QNetworkReply::downloadProgress, reply, [reply, oversized](qint64 received, qint64) {
+        if (received > AppcastInput::kMaxBytes && !*oversized) {
+            *oversized = true;
+            reply->abort();
+        }
+    });
+    connect(reply, &QNetworkReply::finished, this,
+            [this, reply, oversized, completion = std::move(completion)] {
+                reply->deleteLater();
+                finishCheck(reply, *oversized, completion);
+            });
+}
+
+void UpdateManager::finishCheck(QNetworkReply *reply, bool oversized, const Completion &completion)
+{
+    FetchResult result;
+    result.oversized = oversized;
+    const QNetworkReply::NetworkError error = reply->error();
+    // HTTP statuses of 400 and up come as errors too, but they are answers with a body.
+    const bool httpAnswer = reply->attribute(QNetworkRequest::HttpStatusCodeAttribute).isValid();
+    if (!oversized && error == QNetworkReply::OperationCanceledError)
+        result.cancelled = true;
+    else if (!oversized && error != QNetworkReply::NoError && !httpAnswer)
+        result.transportError = reply->errorString();
+    else if (reply->isReadable())
+        result.data = reply->readAll();
+
+    const std::optional<Answer> answer = answerFor(result, m_options.currentVersion);
+    if (!answer)
+        return;
+    QMetaObject::invokeMethod(
+        this, [completion, answer = *answer] { completion(answer.available, answer.version); },
+        Qt::QueuedConnection);
+}
+
+std::optional<UpdateManager::Answer> UpdateManager::answerFor(const FetchResult &result,
+                                                              const QString &currentVersion)
+{
+    if (result.cancelled)
+        return std::nullopt;
+    if (result.transportError) {
+        Console::line(u"❌ Update check failed: " + *result.transportError);
+        return Answer{};
+    }
+    if (!result.oversized && !result.data) {
+        Console::line(QStringLiteral("❌ No data received from appcast"));
+        return Answer{};
+    }
+    const std::optional<AppcastResult> feed =
+        result.oversized ? std::nullopt : AppcastParser::parseAppcast(*result.data);
+    if (!feed) {
+        Console::line(QStringLiteral("❌ Failed to parse appcast"));
+        return Answer{};
+    }
+    Console::line(u"📦 Current version: " + currentVersion);
+    Console::line(u"📦 Latest version: " + feed->version);
+    if (VersionOrder::isVersion(feed->version, currentVersion)) {
+        Console::line(QStringLiteral("✅ Update available!"));
+        return Answer{true, feed->version};
+    }
+    Console::line(QStringLiteral("✅ No update available"));
+    return Answer{};
+}
