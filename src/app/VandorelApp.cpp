@@ -7,7 +7,9 @@
 #include "core/support/Console.h"
 #include "core/support/QtTimerFactory.h"
 #include "core/support/SystemClock.h"
+#include "core/updates/UpdateManager.h"
 #include "platform/PlatformBackend.h"
+#include "ui/UpdateDialogPresenter.h"
 
 #include "BuildConfig.h"
 
@@ -19,6 +21,7 @@
 VandorelApp::VandorelApp(const Options &options)
 {
     ensureSingleInstance();
+    UpdateManager::shared().setPresenter(std::make_shared<UpdateDialogPresenter>());
 
     m_handlers = PlatformBackend::createHandlerDatabase();
     m_clock = std::make_unique<SystemClock>();

@@ -21,23 +21,20 @@ constexpr std::array<Row, 5> rows = {{
     {UpdateCheckInterval::never, "never", 0, "update_interval_never"},
 }};
 
-const Row &rowOf(UpdateCheckInterval::Value value)
-{
+const Row &rowOf(UpdateCheckInterval::Value value) {
     return rows[static_cast<size_t>(value)];
 }
 
 } // namespace
 
-QList<UpdateCheckInterval> UpdateCheckInterval::allCases()
-{
+QList<UpdateCheckInterval> UpdateCheckInterval::allCases() {
     QList<UpdateCheckInterval> cases;
     for (const Row &row : rows)
         cases.append(row.value);
     return cases;
 }
 
-std::optional<UpdateCheckInterval> UpdateCheckInterval::fromRawValue(const QString &raw)
-{
+std::optional<UpdateCheckInterval> UpdateCheckInterval::fromRawValue(const QString &raw) {
     for (const Row &row : rows) {
         if (raw == QLatin1StringView(row.raw))
             return UpdateCheckInterval(row.value);
@@ -45,11 +42,16 @@ std::optional<UpdateCheckInterval> UpdateCheckInterval::fromRawValue(const QStri
     return std::nullopt;
 }
 
-QString UpdateCheckInterval::rawValue() const { return QLatin1StringView(rowOf(m_value).raw); }
-double UpdateCheckInterval::timeInterval() const { return rowOf(m_value).seconds; }
-QString UpdateCheckInterval::localizationKey() const { return QLatin1StringView(rowOf(m_value).key); }
+QString UpdateCheckInterval::rawValue() const {
+    return QLatin1StringView(rowOf(m_value).raw);
+}
+double UpdateCheckInterval::timeInterval() const {
+    return rowOf(m_value).seconds;
+}
+QString UpdateCheckInterval::localizationKey() const {
+    return QLatin1StringView(rowOf(m_value).key);
+}
 
-QString UpdateCheckInterval::displayName() const
-{
+QString UpdateCheckInterval::displayName() const {
     return LanguageManager::shared().localizedString(localizationKey());
 }

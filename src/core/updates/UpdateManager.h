@@ -94,7 +94,8 @@ public:
 
     // Judges a finished request and writes its console lines. None when the request was
     // cancelled: it gets no answer. Free of shared state.
-    static std::optional<Answer> answerFor(const FetchResult &result, const QString &currentVersion);
+    static std::optional<Answer> answerFor(const FetchResult &result,
+                                           const QString &currentVersion);
     // Writes which way, if any, shows that Homebrew installed this copy.
     static bool detectBrewInstall(const QString &installPath, const QStringList &brewPrefixes);
 

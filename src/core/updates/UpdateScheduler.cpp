@@ -7,21 +7,24 @@
 
 namespace {
 
-QString key(const char *name) { return QString::fromLatin1(name); }
+QString key(const char *name) {
+    return QString::fromLatin1(name);
+}
 
-QString boolText(bool value) { return value ? QStringLiteral("true") : QStringLiteral("false"); }
+QString boolText(bool value) {
+    return value ? QStringLiteral("true") : QStringLiteral("false");
+}
 
 } // namespace
 
 UpdateScheduler::UpdateScheduler(SettingsStore &settings, TimerFactory &timers,
                                  std::function<void()> automaticCheck, QObject *parent)
-    : QObject(parent), m_settings(settings), m_timers(timers),
-      m_automaticCheck(std::move(automaticCheck))
-{
-}
+    : QObject(parent)
+    , m_settings(settings)
+    , m_timers(timers)
+    , m_automaticCheck(std::move(automaticCheck)) {}
 
-UpdateScheduler::Config UpdateScheduler::currentSchedulerConfig() const
-{
+UpdateScheduler::Config UpdateScheduler::currentSchedulerConfig() const {
     // A plain read would give false for an absent key, and the default is on.
     const QString startupKey = key(checkForUpdatesAtStartupKey);
     Config config;
@@ -31,8 +34,7 @@ UpdateScheduler::Config UpdateScheduler::currentSchedulerConfig() const
     return config;
 }
 
-void UpdateScheduler::configureUpdateScheduler()
-{
+void UpdateScheduler::configureUpdateScheduler() {
     cancelStartupCheck();
     invalidateUpdateTimer();
 
@@ -70,28 +72,25 @@ void UpdateScheduler::configureUpdateScheduler()
         m_automaticCheck();
     });
     m_updateTimer->start(period, true);
-    Console::line(u"✅ Interval timer scheduled every " + QString::number(period.count()) + u"s ("
-                  + raw + u')');
+    Console::line(u"✅ Interval timer scheduled every " + QString::number(period.count()) + u"s (" +
+                  raw + u')');
 }
 
-void UpdateScheduler::userDefaultsDidChange()
-{
+void UpdateScheduler::userDefaultsDidChange() {
     const Config config = currentSchedulerConfig();
     if (m_lastSchedulerConfig && *m_lastSchedulerConfig == config)
         return;
-    Console::line(
-        QStringLiteral("⚙️ Update-related UserDefaults changed -> reconfigure update scheduler"));
+    Console::line(QStringLiteral(
+        "⚙️ Update-related UserDefaults changed -> reconfigure update scheduler"));
     configureUpdateScheduler();
 }
 
-void UpdateScheduler::stop()
-{
+void UpdateScheduler::stop() {
     cancelStartupCheck();
     invalidateUpdateTimer();
 }
 
-void UpdateScheduler::cancelStartupCheck()
-{
+void UpdateScheduler::cancelStartupCheck() {
     if (m_startupCheckWorkItem) {
         m_startupCheckWorkItem->stop();
         m_startupCheckWorkItem->deleteLater();
@@ -99,8 +98,7 @@ void UpdateScheduler::cancelStartupCheck()
     m_startupCheckWorkItem = nullptr;
 }
 
-void UpdateScheduler::invalidateUpdateTimer()
-{
+void UpdateScheduler::invalidateUpdateTimer() {
     if (m_updateTimer) {
         m_updateTimer->stop();
         m_updateTimer->deleteLater();

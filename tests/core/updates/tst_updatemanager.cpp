@@ -17,14 +17,15 @@ using namespace std::chrono_literals;
 
 namespace {
 
-QByteArray feed(const QByteArray &version)
-{
+QByteArray feed(const QByteArray &version) {
     return "<?xml version=\"1.0\" encoding=\"utf-8\"?>\n"
-           "<rss version=\"2.0\" xmlns:sparkle=\"http://www.andymatuschak.org/xml-namespaces/sparkle\">"
+           "<rss version=\"2.0\" "
+           "xmlns:sparkle=\"http://www.andymatuschak.org/xml-namespaces/sparkle\">"
            "<channel><item><title>Vandorel</title>"
-           "<enclosure url=\"http://127.0.0.1/v.tar\" sparkle:version=\""
-        + version + "\" length=\"1\" type=\"application/octet-stream\"/>"
-                    "</item></channel></rss>\n";
+           "<enclosure url=\"http://127.0.0.1/v.tar\" sparkle:version=\"" +
+           version +
+           "\" length=\"1\" type=\"application/octet-stream\"/>"
+           "</item></channel></rss>\n";
 }
 
 struct Calls {
@@ -33,7 +34,8 @@ struct Calls {
 
 class RecordingController final : public UpdaterController {
 public:
-    explicit RecordingController(Calls &calls) : m_calls(calls) {}
+    explicit RecordingController(Calls &calls)
+        : m_calls(calls) {}
     void startUpdater() override { m_calls.log.append(QStringLiteral("startUpdater")); }
     void checkForUpdates() override { m_calls.log.append(QStringLiteral("checkForUpdates")); }
 
@@ -43,8 +45,7 @@ private:
 
 class RecordingPresenter final : public UpdatePresenter {
 public:
-    void presentUpdateAvailable(const QString &version, bool isBrewInstall) override
-    {
+    void presentUpdateAvailable(const QString &version, bool isBrewInstall) override {
         shown.append(u"sheet " + version + (isBrewInstall ? u" brew" : u""));
     }
     void presentNoUpdate() override { shown.append(QStringLiteral("up to date")); }
@@ -60,8 +61,8 @@ struct Answer {
 // One manager over a loopback feed, a temporary store, a still clock and fake timers.
 class Rig {
 public:
-    explicit Rig(const QString &currentVersion = QStringLiteral("1.9.9"), bool ownController = false)
-    {
+    explicit Rig(const QString &currentVersion = QStringLiteral("1.9.9"),
+                 bool ownController = false) {
         UpdateManager::Options options;
         options.settings = &settings.store();
         options.clock = &clock;
@@ -69,7 +70,8 @@ public:
         options.appcastURL = QUrl(server.url());
         options.currentVersion = currentVersion;
         options.installPath = QStringLiteral("/usr/bin/vandorel");
-        options.brewPrefixes = {prefixes.path() + u"/opt/homebrew", prefixes.path() + u"/usr/local"};
+        options.brewPrefixes = {prefixes.path() + u"/opt/homebrew",
+                                prefixes.path() + u"/usr/local"};
         if (!ownController)
             options.makeController = [this](UpdateManager &) {
                 return std::make_unique<RecordingController>(calls);
@@ -77,16 +79,14 @@ public:
         manager = std::make_unique<UpdateManager>(options);
     }
 
-    UpdateManager::Completion recorder(const QString &tag)
-    {
+    UpdateManager::Completion recorder(const QString &tag) {
         return [this, tag](bool available, const std::optional<QString> &version) {
             answers.append({tag, available, version});
         };
     }
 
     // Runs one automatic check to its end, including the queued updater call.
-    void runAutomaticCheck()
-    {
+    void runAutomaticCheck() {
         const qsizetype before = server.requestLines.size();
         const qsizetype linesBefore = console.lines().size();
         manager->checkAutomaticallyAndPresentIfAvailable();
@@ -107,8 +107,7 @@ public:
     std::unique_ptr<UpdateManager> manager;
 };
 
-double epochSeconds(const QDateTime &when)
-{
+double epochSeconds(const QDateTime &when) {
     return static_cast<double>(when.toMSecsSinceEpoch()) / 1000.0;
 }
 
@@ -136,8 +135,7 @@ private Q_SLOTS:
     void ownUpdaterShowsWhatTheFeedSays();
 };
 
-void UpdateManagerTest::comparesTheFeedWithTheRunningVersion_data()
-{
+void UpdateManagerTest::comparesTheFeedWithTheRunningVersion_data() {
     QTest::addColumn<QByteArray>("latest");
     QTest::addColumn<QString>("current");
     QTest::addColumn<bool>("available");
@@ -147,8 +145,7 @@ void UpdateManagerTest::comparesTheFeedWithTheRunningVersion_data()
     QTest::newRow("older feed") << QByteArray("1.0") << "1.9.9" << false;
 }
 
-void UpdateManagerTest::comparesTheFeedWithTheRunningVersion()
-{
+void UpdateManagerTest::comparesTheFeedWithTheRunningVersion() {
     QFETCH(QByteArray, latest);
     QFETCH(QString, current);
     QFETCH(bool, available);
@@ -168,8 +165,7 @@ void UpdateManagerTest::comparesTheFeedWithTheRunningVersion()
                                     : QStringLiteral("✅ No update available")}));
 }
 
-void UpdateManagerTest::httpErrorPagesAreReadAsFeeds_data()
-{
+void UpdateManagerTest::httpErrorPagesAreReadAsFeeds_data() {
     QTest::addColumn<int>("status");
     QTest::addColumn<QByteArray>("body");
     QTest::addColumn<QStringList>("lines");
@@ -179,16 +175,17 @@ void UpdateManagerTest::httpErrorPagesAreReadAsFeeds_data()
     QTest::newRow("500 xml error")
         << 500 << QByteArray("<?xml version=\"1.0\"?><error><code>500</code></error>")
         << QStringList{"📦 Current version: 1.9.9", "📦 Latest version: ", "✅ No update available"};
-    QTest::newRow("200 empty body") << 200 << QByteArray() << QStringList{"❌ Failed to parse appcast"};
+    QTest::newRow("200 empty body")
+        << 200 << QByteArray() << QStringList{"❌ Failed to parse appcast"};
 }
 
-void UpdateManagerTest::httpErrorPagesAreReadAsFeeds()
-{
+void UpdateManagerTest::httpErrorPagesAreReadAsFeeds() {
     QFETCH(int, status);
     QFETCH(QByteArray, body);
     QFETCH(QStringList, lines);
     Rig rig;
-    rig.server.serve({.status = status, .reason = "Whatever", .contentType = "text/html", .body = body});
+    rig.server.serve(
+        {.status = status, .reason = "Whatever", .contentType = "text/html", .body = body});
 
     rig.manager->checkForUpdates(rig.recorder("check"));
     QTRY_COMPARE(rig.answers.size(), 1);
@@ -197,8 +194,7 @@ void UpdateManagerTest::httpErrorPagesAreReadAsFeeds()
     QCOMPARE(rig.console.lines(), lines);
 }
 
-void UpdateManagerTest::transportFailureIsReported()
-{
+void UpdateManagerTest::transportFailureIsReported() {
     Rig rig;
     quint16 closedPort = 0;
     {
@@ -210,7 +206,8 @@ void UpdateManagerTest::transportFailureIsReported()
     options.settings = &rig.settings.store();
     options.clock = &rig.clock;
     options.timers = &rig.timers;
-    options.appcastURL = QUrl(QStringLiteral("http://127.0.0.1:%1/app/Vandorel/appcast.xml").arg(closedPort));
+    options.appcastURL =
+        QUrl(QStringLiteral("http://127.0.0.1:%1/app/Vandorel/appcast.xml").arg(closedPort));
     options.currentVersion = QStringLiteral("1.0");
     UpdateManager manager(options);
 
@@ -223,8 +220,7 @@ void UpdateManagerTest::transportFailureIsReported()
              qPrintable(rig.console.lines()[0]));
 }
 
-void UpdateManagerTest::oversizedFeedIsRefused()
-{
+void UpdateManagerTest::oversizedFeedIsRefused() {
     Rig rig;
     QByteArray body = feed("9.0");
     body.insert(body.indexOf("<channel>"), QByteArray(5 * 1024 * 1024, ' '));
@@ -236,8 +232,7 @@ void UpdateManagerTest::oversizedFeedIsRefused()
     QCOMPARE(rig.console.lines(), QStringList{"❌ Failed to parse appcast"});
 }
 
-void UpdateManagerTest::judgesFetchResultsWithoutNetwork()
-{
+void UpdateManagerTest::judgesFetchResultsWithoutNetwork() {
     ConsoleCapture console;
     UpdateManager::FetchResult cancelled;
     cancelled.cancelled = true;
@@ -254,8 +249,7 @@ void UpdateManagerTest::judgesFetchResultsWithoutNetwork()
     QCOMPARE(console.take(), QStringList{"❌ Failed to parse appcast"});
 }
 
-void UpdateManagerTest::supersededRequestNeverAnswers()
-{
+void UpdateManagerTest::supersededRequestNeverAnswers() {
     Rig rig;
     rig.server.serve({.body = feed("2.0")});
     rig.server.hold();
@@ -275,8 +269,7 @@ void UpdateManagerTest::supersededRequestNeverAnswers()
     QVERIFY(rig.console.startingWith("❌").isEmpty());
 }
 
-void UpdateManagerTest::detectsHomebrewInstall_data()
-{
+void UpdateManagerTest::detectsHomebrewInstall_data() {
     QTest::addColumn<QString>("installPath");
     QTest::addColumn<QStringList>("present"); // made under the temporary root
     QTest::addColumn<bool>("isBrew");
@@ -288,8 +281,8 @@ void UpdateManagerTest::detectsHomebrewInstall_data()
     QTest::newRow("resolved path in a Caskroom")
         << "/opt/homebrew/Caskroom/vandorel/1.0/Vandorel" << QStringList() << true
         << "🍺 Homebrew install detected via symlink resolution";
-    QTest::newRow("caskroom is case-sensitive") << "/opt/homebrew/caskroom/vandorel/bin/vandorel"
-                                                << QStringList() << false << none;
+    QTest::newRow("caskroom is case-sensitive")
+        << "/opt/homebrew/caskroom/vandorel/bin/vandorel" << QStringList() << false << none;
     QTest::newRow("first path wins")
         << "/usr/bin/vandorel"
         << QStringList{"/usr/local/Caskroom/vandorel", "/opt/homebrew/Caskroom/van-dorel"} << true
@@ -307,8 +300,7 @@ void UpdateManagerTest::detectsHomebrewInstall_data()
         << none;
 }
 
-void UpdateManagerTest::detectsHomebrewInstall()
-{
+void UpdateManagerTest::detectsHomebrewInstall() {
     QFETCH(QString, installPath);
     QFETCH(QStringList, present);
     QFETCH(bool, isBrew);
@@ -344,8 +336,7 @@ void UpdateManagerTest::detectsHomebrewInstall()
     QCOMPARE(rig.console.lines(), QStringList{line.contains(u"%1") ? line.arg(root.path()) : line});
 }
 
-void UpdateManagerTest::homebrewInstallHasNoUpdaterAndNoAutomaticCheck()
-{
+void UpdateManagerTest::homebrewInstallHasNoUpdaterAndNoAutomaticCheck() {
     Rig rig;
     QVERIFY(QDir().mkpath(rig.prefixes.path() + u"/usr/local/Caskroom/vandorel"));
     rig.server.serve({.body = feed("9.0")});
@@ -365,8 +356,7 @@ void UpdateManagerTest::homebrewInstallHasNoUpdaterAndNoAutomaticCheck()
     QCOMPARE(rig.answers[0].version, std::optional<QString>("9.0"));
 }
 
-void UpdateManagerTest::updaterGuardHoldsForEightSeconds()
-{
+void UpdateManagerTest::updaterGuardHoldsForEightSeconds() {
     Rig rig;
     QVERIFY(rig.manager->checkForUpdatesWithSparkle());
     QVERIFY(rig.calls.log.isEmpty()); // runs right after the current work
@@ -392,8 +382,7 @@ void UpdateManagerTest::updaterGuardHoldsForEightSeconds()
     QCOMPARE(rig.calls.log.size(), 4);
 }
 
-void UpdateManagerTest::reminderSnoozeFollowsTheOfferedVersion()
-{
+void UpdateManagerTest::reminderSnoozeFollowsTheOfferedVersion() {
     Rig rig;
     rig.server.serve({.body = feed("2.0")});
     const QString until = QString::fromLatin1(UpdateManager::updateSnoozeUntilKey);
@@ -401,7 +390,8 @@ void UpdateManagerTest::reminderSnoozeFollowsTheOfferedVersion()
 
     rig.runAutomaticCheck();
     QTRY_COMPARE(rig.calls.log.size(), 2);
-    QCOMPARE(rig.console.lines().last(), QStringLiteral("🔕 Auto update reminder snoozed for 4h (version 2.0)"));
+    QCOMPARE(rig.console.lines().last(),
+             QStringLiteral("🔕 Auto update reminder snoozed for 4h (version 2.0)"));
     const QDateTime end = rig.clock.now().addSecs(4 * 3600);
     {
         SettingsStore fresh(rig.settings.path());
@@ -422,7 +412,8 @@ void UpdateManagerTest::reminderSnoozeFollowsTheOfferedVersion()
     rig.server.serve({.body = feed("2.1")});
     rig.runAutomaticCheck();
     QTRY_COMPARE(rig.calls.log.size(), 4);
-    QCOMPARE(rig.console.lines().last(), QStringLiteral("🔕 Auto update reminder snoozed for 4h (version 2.1)"));
+    QCOMPARE(rig.console.lines().last(),
+             QStringLiteral("🔕 Auto update reminder snoozed for 4h (version 2.1)"));
     const QDateTime secondEnd = rig.clock.now().addSecs(4 * 3600);
     QCOMPARE(rig.settings.store().doubleValue(until), epochSeconds(secondEnd));
     QCOMPARE(rig.settings.store().stringValue(version), std::optional<QString>("2.1"));
@@ -434,8 +425,7 @@ void UpdateManagerTest::reminderSnoozeFollowsTheOfferedVersion()
     QTRY_COMPARE(rig.calls.log.size(), 6);
 }
 
-void UpdateManagerTest::busyUpdaterSetsNoSnooze()
-{
+void UpdateManagerTest::busyUpdaterSetsNoSnooze() {
     Rig rig;
     rig.server.serve({.body = feed("2.0")});
     QVERIFY(rig.manager->checkForUpdatesWithSparkle());
@@ -454,8 +444,7 @@ void UpdateManagerTest::busyUpdaterSetsNoSnooze()
     QCOMPARE(rig.console.startingWith("🔕").size(), 1);
 }
 
-void UpdateManagerTest::snoozeNeedsBothKeys()
-{
+void UpdateManagerTest::snoozeNeedsBothKeys() {
     Rig rig;
     rig.server.serve({.body = feed("2.0")});
     rig.settings.store().setString(UpdateManager::updateSnoozeVersionKey, "2.0");
@@ -464,8 +453,7 @@ void UpdateManagerTest::snoozeNeedsBothKeys()
     QVERIFY(rig.console.startingWith("😴").isEmpty());
 }
 
-void UpdateManagerTest::resetRemovesTheSnooze()
-{
+void UpdateManagerTest::resetRemovesTheSnooze() {
     Rig rig;
     rig.server.serve({.body = feed("2.0")});
     rig.settings.store().setDouble(UpdateManager::updateSnoozeUntilKey,
@@ -485,8 +473,7 @@ void UpdateManagerTest::resetRemovesTheSnooze()
     QTRY_COMPARE(rig.calls.log.size(), 2);
 }
 
-void UpdateManagerTest::ownUpdaterShowsWhatTheFeedSays()
-{
+void UpdateManagerTest::ownUpdaterShowsWhatTheFeedSays() {
     Rig rig(QStringLiteral("1.9.9"), true);
     auto presenter = std::make_shared<RecordingPresenter>();
     rig.manager->setPresenter(presenter);
