@@ -24,4 +24,7 @@ public:
     void setLastBrowserChange(const std::optional<QDateTime> &when) { setLastChange(when); }
 
     void updateCurrentDefaultBrowser() { updateCurrentDefault(); }
+    void checkDefaultBrowser() { check(); }
+    void setDefaultBrowser(const Browser &browser) { setDefault(browser); }
+    void cancelBrowserChange() { cancelChange(); }
 };

@@ -24,4 +24,7 @@ public:
     void setLastEmailChange(const std::optional<QDateTime> &when) { setLastChange(when); }
 
     void updateCurrentDefaultEmailClient() { updateCurrentDefault(); }
+    void checkDefaultEmailClient() { check(); }
+    void setDefaultEmailClient(const EmailClient &client) { setDefault(client); }
+    void cancelEmailClientChange() { cancelChange(); }
 };

@@ -1,11 +1,21 @@
 #include "core/guard/HandlerGuard.h"
 
+#include "core/changelog/LogManager.h"
 #include "core/guard/HandlerDetector.h"
+#include "core/i18n/LanguageManager.h"
+#include "core/support/CheckedMath.h"
 #include "core/support/Clock.h"
 #include "core/support/Console.h"
+#include "core/support/TextFormat.h"
 #include "core/support/Timer.h"
 #include "core/support/TimerFactory.h"
+#include "platform/HandlerDatabase.h"
 #include "platform/SystemEvents.h"
+
+#include <QCoreApplication>
+#include <QMetaObject>
+#include <QPointer>
+#include <QThreadPool>
 
 #include <chrono>
 
@@ -16,6 +26,9 @@ HandlerGuard::HandlerGuard(const GuardProfile &profile, const GuardEnvironment &
     : QObject(parent), m_profile(profile), m_env(environment),
       m_settings(profile, *environment.settings), m_resolver(profile, *environment.handlers)
 {
+    if (m_env.alerts)
+        connect(m_env.alerts, &AlertPresenter::presentingChanged, this,
+                &HandlerGuard::alertsPresentingChanged);
     setDefaultsIfNeeded();
     detectInstalled();
     updateCurrentDefault();
@@ -218,8 +231,31 @@ void HandlerGuard::handleSystemEvent(const QString &type)
 }
 
 bool HandlerGuard::wasLaunchedAtLogin() const { return m_env.launchedAtLogin; }
-void HandlerGuard::startMonitoring() {}
-void HandlerGuard::stopMonitoring() {}
+
+// --- monitoring -------------------------------------------------------------------------------
+
+void HandlerGuard::startMonitoring()
+{
+    if (checkInterval() == CheckInterval::none)
+        return;
+    stopMonitoring();
+    check();
+    const double seconds = checkInterval().timeInterval();
+    if (seconds <= 0)
+        return;
+    if (!m_monitoringTimer) {
+        m_monitoringTimer = m_env.timers->createTimer(this);
+        connect(m_monitoringTimer, &Timer::timeout, this, &HandlerGuard::monitoringTimeout);
+    }
+    m_monitoringTimer->start(std::chrono::milliseconds(qRound64(seconds * 1000)), true);
+}
+
+void HandlerGuard::stopMonitoring()
+{
+    if (m_monitoringTimer)
+        m_monitoringTimer->stop();
+    m_tickMissed = false;
+}
 
 void HandlerGuard::restartMonitoring()
 {
@@ -228,11 +264,209 @@ void HandlerGuard::restartMonitoring()
         startMonitoring();
 }
 
+// A modal alert holds the monitoring tick back (so alerts from this path never stack);
+// one tick missed meanwhile runs when the alert is gone.
+void HandlerGuard::monitoringTimeout()
+{
+    if (m_env.alerts && m_env.alerts->isPresenting()) {
+        m_tickMissed = true;
+        return;
+    }
+    timerFired();
+}
+
+void HandlerGuard::alertsPresentingChanged(bool presenting)
+{
+    if (presenting || !m_tickMissed)
+        return;
+    m_tickMissed = false;
+    if (m_monitoringTimer && m_monitoringTimer->isActive())
+        timerFired();
+}
+
+void HandlerGuard::timerFired()
+{
+    if (m_snoozeUntil) {
+        if (m_env.clock->now() < *m_snoozeUntil)
+            return;
+        m_snoozeUntil.reset();
+        setSnoozed(false);
+    }
+    check();
+}
+
 void HandlerGuard::check()
 {
+    const std::optional<HandlerRecord> previous = m_currentDefault;
     updateCurrentDefault();
+    const auto target = this->target();
+    if (!target)
+        return;
+    const std::optional<HandlerRecord> current = m_currentDefault;
+    if (!current)
+        return;
+    if (!monitoringEnabled())
+        return;
+    if (current->bundleIdentifier == target->bundleIdentifier)
+        return;
+    // No test of whether the default changed since the last check: a default that stays
+    // away counts and alerts on every check; the snooze after "keep" spaces them out.
+    if (previous)
+        recordChange(*previous, *current, true);
+    showChangedAlert(*current, *target);
 }
+
+void HandlerGuard::recordChange(const HandlerRecord &from, const HandlerRecord &to, bool autoFix)
+{
+    if (m_env.log)
+        (m_env.log->*m_profile.logChange)(from.name, to.name);
+    trackDefaultChanged(from.name, to.name, autoFix);
+    setChangeCount(checkedIncrement(changeCount()));
+    setLastChange(m_env.clock->now());
+}
+
+// --- the change transaction ---------------------------------------------------------------------
+
+namespace {
+constexpr int maxPolls = 60;
+constexpr std::chrono::milliseconds pollInterval = 1000ms;
+} // namespace
+
+void HandlerGuard::setDefault(const HandlerRecord &record)
+{
+    Console::line(m_profile.setCalledPrefix + record.name);
+    m_isChanging = true;
+    Q_EMIT objectWillChange();
+    Console::line(m_profile.changingFlagLine);
+
+    // The system calls may block, so they run on a worker; it touches no guard state and
+    // hands the record back to the main thread, where a gone guard drops it.
+    HandlerDatabase *handlers = m_env.handlers;
+    const QStringList schemes = m_profile.settingSchemes;
+    const QStringList labels = m_profile.settingSchemeLabels;
+    QPointer<HandlerGuard> guard(this);
+    QThreadPool::globalInstance()->start([handlers, schemes, labels, guard, record] {
+        QStringList statuses;
+        for (qsizetype i = 0; i < schemes.size(); ++i) {
+            const int status = handlers->setDefaultHandler(schemes.at(i), record.bundleIdentifier);
+            statuses.append(labels.value(i, schemes.at(i)) + u": " + QString::number(status));
+        }
+        Console::line(u"   " + statuses.join(u", "));
+        QMetaObject::invokeMethod(
+            QCoreApplication::instance(),
+            [guard, record] {
+                if (guard)
+                    guard->startPollingForChange(record);
+            },
+            Qt::QueuedConnection);
+    });
+}
+
+void HandlerGuard::startPollingForChange(const HandlerRecord &target)
+{
+    if (m_pollingTimer)
+        m_pollingTimer->stop();
+    m_polling = Polling{0, std::nullopt, target.bundleIdentifier, target};
+    Console::line(m_profile.startingPollingLine);
+    m_polling.previous = m_currentDefault;
+    // This timer is not held back by an open alert: the change-back answer is watched
+    // while further alerts are up.
+    if (!m_pollingTimer) {
+        m_pollingTimer = m_env.timers->createTimer(this);
+        connect(m_pollingTimer, &Timer::timeout, this, &HandlerGuard::pollTick);
+    }
+    m_pollingTimer->start(pollInterval, true);
+}
+
+void HandlerGuard::pollTick()
+{
+    ++m_polling.pollCount;
+    const auto current = m_resolver.currentDefaultIdentifier();
+    updateCurrentDefault();
+    Console::line(m_profile.pollPrefix + QString::number(m_polling.pollCount) + u": "
+                  + current.value_or(QStringLiteral("none")) + u" vs " + m_polling.targetBundleID);
+    if (current && *current == m_polling.targetBundleID) {
+        Console::line(m_profile.matchLine);
+        const HandlerRecord target = *m_polling.target;
+        if (m_polling.previous && m_polling.previous->bundleIdentifier != m_polling.targetBundleID)
+            recordChange(*m_polling.previous, target, false);
+        endChange();
+        Console::line(m_profile.setToPrefix + target.name);
+        m_pollingTimer->stop();
+        return;
+    }
+    if (m_polling.pollCount >= maxPolls) {
+        Console::line(m_profile.timeoutLine);
+        endChange();
+        m_pollingTimer->stop();
+    }
+}
+
+void HandlerGuard::endChange()
+{
+    m_isChanging = false;
+    Q_EMIT objectWillChange();
+}
+
+void HandlerGuard::cancelChange()
+{
+    Console::line(m_profile.cancelledLine);
+    if (m_pollingTimer)
+        m_pollingTimer->stop();
+    endChange();
+}
+
+// --- alert and snooze ---------------------------------------------------------------------------
+
+void HandlerGuard::showChangedAlert(const HandlerRecord &current, const HandlerRecord &target)
+{
+    trackAlertShown(m_profile.alertType);
+    if (!m_env.alerts)
+        return;
+    const LanguageManager &language = LanguageManager::shared();
+    AlertPresenter::Alert alert;
+    alert.title = language.localizedString(m_profile.alertTitleKey);
+    alert.text = TextFormat::format(language.localizedString(m_profile.alertMessageKey),
+                                    {current.name, target.name});
+    alert.firstButton = language.localizedString(QStringLiteral("alert_button_change_back"));
+    alert.secondButton = TextFormat::format(
+        language.localizedString(QStringLiteral("alert_button_keep %@")), {current.name});
+    alert.symbolName = QStringLiteral("exclamationmark.shield");
+    // Each call queues its own alert; the answer goes to this guard if it still exists.
+    QPointer<HandlerGuard> guard(this);
+    m_env.alerts->present(alert, [guard, target](AlertPresenter::Answer answer) {
+        if (guard)
+            guard->alertAnswered(answer, target);
+    });
+}
+
+void HandlerGuard::alertAnswered(AlertPresenter::Answer answer, const HandlerRecord &target)
+{
+    if (answer == AlertPresenter::Answer::first) {
+        trackAlertAction(m_profile.alertType, QStringLiteral("fix"));
+        setDefault(target);
+    } else {
+        trackAlertAction(m_profile.alertType, QStringLiteral("keep"));
+        snoozeMonitoring();
+    }
+}
+
+void HandlerGuard::snoozeMonitoring()
+{
+    const QDateTime now = m_env.clock->now();
+    const double seconds = snoozeDuration().timeInterval(now);
+    // A new snooze replaces a running one; its end is computed from now.
+    m_snoozeUntil = now.addMSecs(qRound64(seconds * 1000));
+    setSnoozed(true);
+    trackSnoozeActivated(m_profile.telemetryType, snoozeDuration().rawValue());
+}
+
+// --- telemetry call sites -----------------------------------------------------------------------
 
 void HandlerGuard::trackTargetSet(const QString &) {}
 void HandlerGuard::trackMonitoringToggled(bool) {}
 void HandlerGuard::trackSettingChanged(const QString &, const QString &) {}
+void HandlerGuard::trackDefaultChanged(const QString &, const QString &, bool) {}
+void HandlerGuard::trackAlertShown(const QString &) {}
+void HandlerGuard::trackAlertAction(const QString &, const QString &) {}
+void HandlerGuard::trackSnoozeActivated(const QString &, const QString &) {}

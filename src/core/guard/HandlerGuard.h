@@ -7,6 +7,7 @@
 #include "core/guard/GuardSettings.h"
 #include "core/guard/HandlerRecord.h"
 #include "core/guard/SnoozeDuration.h"
+#include "platform/AlertPresenter.h"
 
 #include <QDateTime>
 #include <QList>
@@ -62,6 +63,18 @@ public:
     void refresh();
     void updateCurrentDefault();
 
+    // Asks the system to make `record` the default and watches, once a second for at most
+    // a minute, whether it did. Returns before the system is asked. Does not write the target.
+    void setDefault(const HandlerRecord &record);
+    // Stops watching; a change the system still completes stays, and is not counted.
+    void cancelChange();
+
+    // Resolves the current default and, when it is away from the target, counts, logs
+    // and asks the user. Honours no snooze: the callers that must, do.
+    void check();
+
+    // The keep answer: silences the monitoring tick and the event checks for snoozeDuration.
+    void snoozeMonitoring();
     void resetSnooze();
 
 Q_SIGNALS:
@@ -78,12 +91,26 @@ private:
     void startMonitoring();
     void stopMonitoring();
     void restartMonitoring();
-    void check();
+    void monitoringTimeout();
+    void timerFired();
+    void alertsPresentingChanged(bool presenting);
+
+    void startPollingForChange(const HandlerRecord &target);
+    void pollTick();
+    void endChange();
+    void recordChange(const HandlerRecord &from, const HandlerRecord &to, bool autoFix);
+
+    void showChangedAlert(const HandlerRecord &current, const HandlerRecord &target);
+    void alertAnswered(AlertPresenter::Answer answer, const HandlerRecord &target);
 
     // Telemetry call sites.
     void trackTargetSet(const QString &name);
     void trackMonitoringToggled(bool enabled);
     void trackSettingChanged(const QString &setting, const QString &value);
+    void trackDefaultChanged(const QString &from, const QString &to, bool autoFix);
+    void trackAlertShown(const QString &type);
+    void trackAlertAction(const QString &type, const QString &action);
+    void trackSnoozeActivated(const QString &type, const QString &duration);
 
     void setInstalled(const QList<HandlerRecord> &records);
     void setCurrentDefault(const std::optional<HandlerRecord> &record);
@@ -101,4 +128,15 @@ private:
     Timer *m_monitoringTimer = nullptr;
     Timer *m_pollingTimer = nullptr;
     std::optional<QDateTime> m_snoozeUntil;
+    // A monitoring tick that came while an alert was up; it runs once the alert is gone.
+    bool m_tickMissed = false;
+
+    // The change transaction being watched.
+    struct Polling {
+        int pollCount = 0;
+        std::optional<HandlerRecord> previous;
+        QString targetBundleID;
+        std::optional<HandlerRecord> target;
+    };
+    Polling m_polling;
 };

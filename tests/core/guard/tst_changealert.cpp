@@ -1,0 +1,265 @@
+#include "GuardWorld.h"
+#include "core/guard/BrowserManager.h"
+#include "core/guard/EmailClientManager.h"
+
+// The change alert and the snooze: the two answers, which paths honour and end a snooze,
+// alerts one at a time, and the monitoring tick held back while one is up.
+class ChangeAlertTest : public QObject {
+    Q_OBJECT
+
+    using Answer = AlertPresenter::Answer;
+
+    static Browser firefox() { return Browser("Firefox", "firefox-esr"); }
+
+    // A browser guard guarding Firefox while Chromium has taken over, its first alert up.
+    struct Incident {
+        GuardWorld world;
+        BrowserManager browser{world.environment()};
+        Incident()
+        {
+            browser.setTargetDefaultBrowser(firefox());
+            world.browsersDefault("chromium");
+            world.tick();
+            GuardWorld::settle();
+        }
+    };
+
+private Q_SLOTS:
+    void keepSnoozesAndTheFirstTickAfterwardsAlertsAgain()
+    {
+        Incident incident;
+        GuardWorld &world = incident.world;
+        BrowserManager &browser = incident.browser;
+        QCOMPARE(world.alerts.shown().size(), 1);
+        QCOMPARE(browser.browserChangeCount(), 1);
+
+        world.clock.advance(5);
+        const QDateTime answeredAt = world.clock.now();
+        QVERIFY(world.alerts.answer(Answer::second));
+        QVERIFY(browser.isSnoozed());
+        QCOMPARE(browser.snoozeUntil(), answeredAt.addSecs(3600));
+        QCOMPARE(browser.targetDefaultBrowser()->bundleIdentifier, QString("firefox-esr"));
+        QVERIFY(world.handlers.setCalls().isEmpty());
+
+        // Ticks during the snooze do nothing at all.
+        ConsoleCapture console;
+        for (int i = 0; i < 5; ++i) {
+            world.clock.advance(600);
+            world.tick();
+        }
+        QCOMPARE(world.clock.now(), answeredAt.addSecs(3000));
+        GuardWorld::settle();
+        QVERIFY(console.lines().isEmpty());
+        QCOMPARE(browser.browserChangeCount(), 1);
+        QCOMPARE(world.alerts.shown().size(), 1);
+
+        // At the very instant of its end the tick ends the snooze and checks.
+        world.clock.set(answeredAt.addSecs(3600));
+        world.tick();
+        QVERIFY(!browser.isSnoozed());
+        QVERIFY(!browser.snoozeUntil());
+        QCOMPARE(console.lines(), QStringList({"📝 Log: Browser changed from Chromium to Chromium"}));
+        QCOMPARE(browser.browserChangeCount(), 2);
+        GuardWorld::settle();
+        QCOMPARE(world.alerts.shown().size(), 2);
+    }
+
+    void changeBackRunsTheTransactionAndCountsOnceMore()
+    {
+        Incident incident;
+        GuardWorld &world = incident.world;
+        BrowserManager &browser = incident.browser;
+        ConsoleCapture console;
+        QVERIFY(world.alerts.answer(Answer::first));
+        QVERIFY(browser.isChangingBrowser());
+        QVERIFY(!browser.isSnoozed());
+        QVERIFY(world.waitForPolling());
+        world.poll();
+        QVERIFY(console.contains("📝 Log: Browser changed from Chromium to Firefox"));
+        QVERIFY(console.contains("✅ Browser set to Firefox"));
+        // One incident answered with a change back counts twice.
+        QCOMPARE(browser.browserChangeCount(), 2);
+        QCOMPARE(world.log.getAllLogs().size(), 2);
+        QVERIFY(!browser.isChangingBrowser());
+    }
+
+    void eventsHonourASnoozeButOnlyTheTickEndsIt()
+    {
+        Incident incident;
+        GuardWorld &world = incident.world;
+        BrowserManager &browser = incident.browser;
+        browser.setSnoozeDuration(SnoozeDuration::fifteenMinutes);
+        QVERIFY(world.alerts.answer(Answer::second));
+        const QDateTime until = *browser.snoozeUntil();
+        browser.setCheckInterval(CheckInterval::none); // no timer: nothing will end the snooze
+        QCOMPARE(browser.browserChangeCount(), 1);
+
+        ConsoleCapture console;
+        Q_EMIT world.events.didWake();
+        Q_EMIT world.events.screenUnlocked();
+        QVERIFY(console.lines().isEmpty());
+
+        // Lapsed: the events check again while the snooze still shows.
+        world.clock.set(until);
+        Q_EMIT world.events.screenUnlocked();
+        QCOMPARE(console.lines(), QStringList({"🔍 Checking after unlock",
+                                               "📝 Log: Browser changed from Chromium to Chromium"}));
+        QVERIFY(browser.isSnoozed());
+        QCOMPARE(browser.snoozeUntil(), until);
+        QCOMPARE(browser.browserChangeCount(), 2);
+
+        browser.resetSnooze();
+        QVERIFY(!browser.isSnoozed());
+        QVERIFY(!browser.snoozeUntil());
+        QCOMPARE(browser.browserChangeCount(), 2); // a reset does not check
+    }
+
+    void startingTheMonitoringChecksThroughASnooze()
+    {
+        Incident incident;
+        GuardWorld &world = incident.world;
+        BrowserManager &browser = incident.browser;
+        QVERIFY(world.alerts.answer(Answer::second));
+        const auto until = browser.snoozeUntil();
+        world.clock.advance(60);
+
+        browser.setCheckInterval(CheckInterval::fiveMinutes);
+        QCOMPARE(browser.browserChangeCount(), 2);
+        QVERIFY(browser.isSnoozed());
+        QCOMPARE(browser.snoozeUntil(), until);
+        GuardWorld::settle();
+        QCOMPARE(world.alerts.shown().size(), 2);
+
+        // A changed duration leaves the running end alone; a new keep starts afresh.
+        browser.setSnoozeDuration(SnoozeDuration::fourHours);
+        QCOMPARE(browser.snoozeUntil(), until);
+        QVERIFY(world.alerts.answer(Answer::second));
+        QCOMPARE(browser.snoozeUntil(), world.clock.now().addSecs(14400));
+    }
+
+    void alertsQueueAndShowOneAtATime()
+    {
+        GuardWorld world;
+        BrowserManager browser(world.environment());
+        browser.setTargetDefaultBrowser(firefox());
+        world.browsersDefault("chromium");
+        browser.checkDefaultBrowser();
+        world.browsersDefault("epiphany");
+        browser.checkDefaultBrowser();
+        GuardWorld::settle();
+        QCOMPARE(world.alerts.shown().size(), 1);
+        QCOMPARE(world.alerts.pendingCount(), 1);
+        QVERIFY(world.alerts.isPresenting());
+
+        // Each answer goes to its own alert; the next comes only after the first is gone.
+        QVERIFY(world.alerts.answer(Answer::second));
+        QVERIFY(browser.isSnoozed());
+        QVERIFY(!world.alerts.isPresenting());
+        GuardWorld::settle();
+        QCOMPARE(world.alerts.shown().size(), 2);
+        QCOMPARE(world.alerts.shown().at(0).secondButton, QString("Keep Chromium for now"));
+        QCOMPARE(world.alerts.shown().at(1).secondButton, QString("Keep Web for now"));
+        QVERIFY(world.alerts.answer(Answer::first));
+        QVERIFY(world.waitForPolling());
+        QCOMPARE(world.handlers.setCalls(), QStringList({"http=firefox-esr", "https=firefox-esr"}));
+        QVERIFY(!world.alerts.answer(Answer::first));
+        world.poll();
+    }
+
+    void aMonitoringTickDuringAnAlertRunsOnceAfterItCloses()
+    {
+        GuardWorld world;
+        BrowserManager browser(world.environment());
+        EmailClientManager email(world.environment());
+        browser.setTargetDefaultBrowser(firefox());
+        email.setTargetDefaultEmailClient(EmailClient("Thunderbird", "thunderbird"));
+        world.mailDefault("evolution");
+        world.tick();
+        GuardWorld::settle();
+        QCOMPARE(world.alerts.shown().size(), 1);
+        QCOMPARE(email.emailChangeCount(), 1);
+
+        // The mail alert is up: no guard's tick runs, however often it comes.
+        world.browsersDefault("chromium");
+        ConsoleCapture console;
+        for (int i = 0; i < 3; ++i)
+            QCOMPARE(world.tick(), 2);
+        QVERIFY(console.lines().isEmpty());
+        QCOMPARE(browser.browserChangeCount(), 0);
+        QCOMPARE(email.emailChangeCount(), 1);
+
+        // Keep snoozes the mail guard only. Each guard then runs its missed tick once: the
+        // mail guard's is silenced by its new snooze, the browser guard's finds Chromium.
+        QVERIFY(world.alerts.answer(Answer::second));
+        QVERIFY(email.isSnoozed());
+        QVERIFY(!browser.isSnoozed());
+        QCOMPARE(console.lines(), QStringList({"📝 Log: Browser changed from Firefox to Chromium"}));
+        QCOMPARE(browser.browserChangeCount(), 1);
+        QCOMPARE(email.emailChangeCount(), 1);
+        GuardWorld::settle();
+        QCOMPARE(world.alerts.shown().size(), 2);
+        QCOMPARE(world.alerts.shown().last().title, QString("Default browser changed"));
+
+        // Nothing more is owed once that tick ran.
+        QVERIFY(world.alerts.answer(Answer::second));
+        QCOMPARE(browser.browserChangeCount(), 1);
+    }
+
+    void aMissedTickIsDroppedWhenTheTimerStops()
+    {
+        GuardWorld world;
+        BrowserManager browser(world.environment());
+        EmailClientManager email(world.environment());
+        browser.setTargetDefaultBrowser(firefox());
+        email.setTargetDefaultEmailClient(EmailClient("Thunderbird", "thunderbird"));
+        world.mailDefault("evolution");
+        world.tick();
+        GuardWorld::settle();
+        world.browsersDefault("chromium");
+        world.tick();
+        browser.setCheckInterval(CheckInterval::none);
+        QVERIFY(world.alerts.answer(Answer::second));
+        QCOMPARE(browser.browserChangeCount(), 0);
+        GuardWorld::settle();
+        QVERIFY(!world.alerts.isPresenting());
+    }
+
+    void theAnswerToAGoneGuardIsDropped()
+    {
+        GuardWorld world;
+        auto browser = std::make_unique<BrowserManager>(world.environment());
+        browser->setTargetDefaultBrowser(firefox());
+        world.browsersDefault("chromium");
+        browser->checkDefaultBrowser();
+        GuardWorld::settle();
+        browser.reset();
+        QVERIFY(world.alerts.answer(Answer::first));
+        QVERIFY(world.handlers.setCalls().isEmpty());
+        QVERIFY(!world.alerts.isPresenting());
+    }
+
+    void theMailGuardSnoozesByItsOwnDuration()
+    {
+        GuardWorld world;
+        EmailClientManager email(world.environment());
+        email.setTargetDefaultEmailClient(EmailClient("Thunderbird", "thunderbird"));
+        email.setSnoozeDuration(SnoozeDuration::thirtyMinutes);
+        world.mailDefault("evolution");
+        world.alerts.setPresetAnswer(Answer::second);
+        world.tick();
+        GuardWorld::settle();
+        QCOMPARE(world.alerts.shown().size(), 1);
+        QCOMPARE(world.alerts.shown().first().secondButton, QString("Keep Evolution for now"));
+        QVERIFY(email.isSnoozed());
+        QCOMPARE(email.snoozeUntil(), world.clock.now().addSecs(1800));
+        world.clock.advance(1799);
+        world.tick();
+        QCOMPARE(email.emailChangeCount(), 1);
+        world.clock.advance(1);
+        world.tick();
+        QCOMPARE(email.emailChangeCount(), 2);
+    }
+};
+
+QTEST_GUILESS_MAIN(ChangeAlertTest)
+#include "tst_changealert.moc"

@@ -1,0 +1,232 @@
+#include "GuardWorld.h"
+#include "core/guard/BrowserManager.h"
+#include "core/guard/EmailClientManager.h"
+
+// Setting a default: the system calls off the main thread, then a poll once a second, at
+// most 60 times, until the resolved default is the one asked for.
+class ChangeTransactionTest : public QObject {
+    Q_OBJECT
+
+    static Browser firefox() { return Browser("Firefox", "firefox-esr"); }
+
+private Q_SLOTS:
+    void aChangeBackIsPolledUntilTheSystemShowsIt()
+    {
+        GuardWorld world;
+        world.browsersDefault("chromium");
+        BrowserManager browser(world.environment());
+        browser.setTargetDefaultBrowser(firefox());
+        browser.setBrowserChangeCount(4);
+        world.handlers.refuse("https"); // only http follows for now
+
+        ConsoleCapture console;
+        browser.setDefaultBrowser(firefox());
+        QVERIFY(browser.isChangingBrowser());
+        QCOMPARE(console.lines(), QStringList({"🔘 setDefaultBrowser called for: Firefox",
+                                               "   ✅ isChangingBrowser = true"}));
+        QVERIFY(world.waitForPolling());
+        QCOMPARE(world.handlers.setCalls(), QStringList({"http=firefox-esr", "https=firefox-esr"}));
+        world.poll(2);
+        world.handlers.setHandlers("https", {"firefox-esr", "chromium"});
+        world.poll();
+        QCOMPARE(console.lines(), QStringList({"🔘 setDefaultBrowser called for: Firefox",
+                                               "   ✅ isChangingBrowser = true",
+                                               "   HTTP: 0, HTTPS: -54",
+                                               "🔄 Starting polling",
+                                               "📡 Poll 1: chromium vs firefox-esr",
+                                               "📡 Poll 2: chromium vs firefox-esr",
+                                               "📡 Poll 3: firefox-esr vs firefox-esr",
+                                               "✅ Match!",
+                                               "📝 Log: Browser changed from Chromium to Firefox",
+                                               "✅ Browser set to Firefox"}));
+        QVERIFY(!browser.isChangingBrowser());
+        QCOMPARE(browser.browserChangeCount(), 5);
+        QCOMPARE(browser.lastBrowserChange(), world.clock.now());
+        QCOMPARE(browser.currentDefaultBrowser()->bundleIdentifier, QString("firefox-esr"));
+        QVERIFY(!world.pollingTimer());
+        // A match is the user's own change: it raises no alert.
+        GuardWorld::settle();
+        QVERIFY(world.alerts.shown().isEmpty());
+    }
+
+    void settingTheDefaultItAlreadyIsCountsNothing()
+    {
+        GuardWorld world;
+        BrowserManager browser(world.environment());
+        ConsoleCapture console;
+        browser.setDefaultBrowser(firefox());
+        QVERIFY(world.waitForPolling());
+        world.poll();
+        QCOMPARE(console.lines().mid(2), QStringList({"   HTTP: 0, HTTPS: 0", "🔄 Starting polling",
+                                                      "📡 Poll 1: firefox-esr vs firefox-esr",
+                                                      "✅ Match!", "✅ Browser set to Firefox"}));
+        QCOMPARE(browser.browserChangeCount(), 0);
+        QVERIFY(world.log.getAllLogs().isEmpty());
+    }
+
+    void aRefusedChangeTimesOutAfterSixtyTicks()
+    {
+        GuardWorld world;
+        world.browsersDefault("chromium");
+        BrowserManager browser(world.environment());
+        world.handlers.refuse("https");
+        world.handlers.refuse("http");
+        ConsoleCapture console;
+        browser.setDefaultBrowser(firefox());
+        QVERIFY(world.waitForPolling());
+        world.poll(59);
+        QVERIFY(browser.isChangingBrowser());
+        QVERIFY(!console.contains("⏱️ Timeout"));
+        world.poll();
+        QCOMPARE(console.lines().last(), QString("⏱️ Timeout"));
+        QCOMPARE(console.lines().at(console.lines().size() - 2),
+                 QString("📡 Poll 60: chromium vs firefox-esr"));
+        QVERIFY(!browser.isChangingBrowser());
+        QVERIFY(!world.pollingTimer());
+        QCOMPARE(browser.browserChangeCount(), 0);
+        QCOMPARE(console.startingWith("📡 Poll ").size(), 60);
+    }
+
+    void noDefaultAtAllReadsAsNone()
+    {
+        GuardWorld world;
+        world.handlers.setHandlers("https", {});
+        world.handlers.setHandlers("http", {});
+        world.handlers.refuse("https");
+        world.handlers.refuse("http");
+        BrowserManager browser(world.environment());
+        ConsoleCapture console;
+        browser.setDefaultBrowser(firefox());
+        QVERIFY(world.waitForPolling());
+        world.poll();
+        QCOMPARE(console.lines().last(), QString("📡 Poll 1: none vs firefox-esr"));
+        QVERIFY(browser.isChangingBrowser());
+        browser.cancelBrowserChange();
+    }
+
+    void cancelStopsThePollAndLeavesLaterChangesToTheChecks()
+    {
+        GuardWorld world;
+        world.browsersDefault("chromium");
+        BrowserManager browser(world.environment());
+        world.handlers.refuse("https");
+        browser.setDefaultBrowser(firefox());
+        QVERIFY(world.waitForPolling());
+        world.poll(2);
+        ConsoleCapture console;
+        browser.cancelBrowserChange();
+        QCOMPARE(console.take(), QStringList({"🛑 User cancelled browser change"}));
+        QVERIFY(!browser.isChangingBrowser());
+        QVERIFY(!world.pollingTimer());
+        world.browsersDefault("firefox-esr"); // the system completes it after all
+        world.poll(5);
+        QVERIFY(console.lines().isEmpty());
+        QCOMPARE(browser.browserChangeCount(), 0);
+    }
+
+    void aCancelBeforeThePollStartsLetsItRunWithTheFlagDown()
+    {
+        GuardWorld world;
+        world.browsersDefault("chromium");
+        BrowserManager browser(world.environment());
+        ConsoleCapture console;
+        browser.setDefaultBrowser(firefox());
+        browser.cancelBrowserChange(); // the worker's hand-back is still ahead
+        QVERIFY(!browser.isChangingBrowser());
+        QVERIFY(world.waitForPolling());
+        QVERIFY(!browser.isChangingBrowser());
+        world.poll();
+        QVERIFY(!browser.isChangingBrowser());
+        QCOMPARE(console.lines().last(), QString("✅ Browser set to Firefox"));
+        QCOMPARE(browser.browserChangeCount(), 1);
+    }
+
+    void aSecondRequestStartsThePollAfresh()
+    {
+        GuardWorld world;
+        world.browsersDefault("chromium");
+        BrowserManager browser(world.environment());
+        world.handlers.refuse("https");
+        world.handlers.refuse("http");
+        browser.setDefaultBrowser(firefox());
+        QVERIFY(world.waitForPolling());
+        world.poll(3);
+
+        ConsoleCapture console;
+        const int starts = world.pollingStarts();
+        browser.setDefaultBrowser(Browser("Web", "epiphany"));
+        QVERIFY(world.waitForPolling(starts));
+        QCOMPARE(world.timers.activeWithInterval(GuardWorld::pollPeriod).size(), 1);
+        world.poll();
+        QCOMPARE(console.lines().mid(2), QStringList({"   HTTP: -54, HTTPS: -54", "🔄 Starting polling",
+                                                      "📡 Poll 1: chromium vs epiphany"}));
+        // The previous value is taken afresh: a change from elsewhere meanwhile is its start.
+        world.browsersDefault("epiphany");
+        world.poll();
+        QCOMPARE(console.lines().mid(5), QStringList({"📡 Poll 2: epiphany vs epiphany", "✅ Match!",
+                                                      "📝 Log: Browser changed from Chromium to Web",
+                                                      "✅ Browser set to Web"}));
+        QCOMPARE(browser.browserChangeCount(), 1);
+        QVERIFY(!browser.isChangingBrowser());
+    }
+
+    void monitoringGoesOnDuringAChange()
+    {
+        GuardWorld world;
+        world.browsersDefault("chromium");
+        BrowserManager browser(world.environment());
+        browser.setTargetDefaultBrowser(firefox());
+        world.handlers.refuse("https");
+        world.handlers.refuse("http");
+        browser.setDefaultBrowser(firefox());
+        QVERIFY(world.waitForPolling());
+        ConsoleCapture console;
+        world.tick();
+        QCOMPARE(console.lines(), QStringList({"📝 Log: Browser changed from Chromium to Chromium"}));
+        GuardWorld::settle();
+        QCOMPARE(world.alerts.shown().size(), 1);
+        // The poll is not held back by the alert on screen.
+        world.poll();
+        QCOMPARE(console.lines().last(), QString("📡 Poll 1: chromium vs firefox-esr"));
+        browser.cancelBrowserChange();
+    }
+
+    void theMailTwinSetsMailto()
+    {
+        GuardWorld world;
+        world.mailDefault("evolution");
+        EmailClientManager email(world.environment());
+        ConsoleCapture console;
+        email.setDefaultEmailClient(EmailClient("Thunderbird", "thunderbird"));
+        QVERIFY(email.isChangingEmailClient());
+        QVERIFY(world.waitForPolling());
+        world.poll();
+        QCOMPARE(console.lines(), QStringList({"📧 setDefaultEmailClient called for: Thunderbird",
+                                               "   ✅ isChangingEmailClient = true",
+                                               "   mailto: 0",
+                                               "🔄 Starting email polling",
+                                               "📡 Email Poll 1: thunderbird vs thunderbird",
+                                               "✅ Email Match!",
+                                               "📝 Log: Email client changed from Evolution to Thunderbird",
+                                               "✅ Email client set to Thunderbird"}));
+        QCOMPARE(world.handlers.setCalls(), QStringList({"mailto=thunderbird"}));
+        QCOMPARE(email.emailChangeCount(), 1);
+
+        world.handlers.refuse("mailto");
+        console.take();
+        email.setDefaultEmailClient(EmailClient("Evolution", "evolution"));
+        QVERIFY(world.waitForPolling());
+        world.poll(60);
+        QCOMPARE(console.lines().mid(2, 2), QStringList({"   mailto: -54", "🔄 Starting email polling"}));
+        QCOMPARE(console.lines().last(), QString("⏱️ Email Timeout"));
+        email.setDefaultEmailClient(EmailClient("Evolution", "evolution"));
+        QVERIFY(world.waitForPolling());
+        console.take();
+        email.cancelEmailClientChange();
+        QCOMPARE(console.lines(), QStringList({"🛑 User cancelled email client change"}));
+        QVERIFY(!email.isChangingEmailClient());
+    }
+};
+
+QTEST_GUILESS_MAIN(ChangeTransactionTest)
+#include "tst_changetransaction.moc"
