@@ -1,6 +1,7 @@
 #include "app/VandorelApp.h"
 
 #include "app/AppDelegate.h"
+#include "core/changelog/LogManager.h"
 #include "core/guard/BrowserManager.h"
 #include "core/guard/EmailClientManager.h"
 #include "core/settings/SettingsStore.h"
@@ -9,6 +10,7 @@
 #include "core/support/SystemClock.h"
 #include "core/updates/UpdateManager.h"
 #include "platform/PlatformBackend.h"
+#include "ui/MessageBoxAlertPresenter.h"
 #include "ui/UpdateDialogPresenter.h"
 
 #include "BuildConfig.h"
@@ -27,11 +29,14 @@ VandorelApp::VandorelApp(const Options &options)
     m_clock = std::make_unique<SystemClock>();
     m_timers = std::make_unique<QtTimerFactory>();
     m_events = PlatformBackend::createSystemEvents();
+    m_alerts = std::make_unique<MessageBoxAlertPresenter>();
     m_environment.settings = &SettingsStore::standard();
     m_environment.handlers = m_handlers.get();
     m_environment.clock = m_clock.get();
     m_environment.timers = m_timers.get();
     m_environment.events = m_events.get();
+    m_environment.alerts = m_alerts.get();
+    m_environment.log = &LogManager::shared();
     m_environment.launchedAtLogin = options.launchedAtLogin;
 
     m_delegate = new AppDelegate(this);

@@ -6,6 +6,7 @@
 
 #include <memory>
 
+class AlertPresenter;
 class AppDelegate;
 class BrowserManager;
 class Clock;
@@ -38,6 +39,7 @@ private:
     std::unique_ptr<Clock> m_clock;
     std::unique_ptr<TimerFactory> m_timers;
     std::unique_ptr<SystemEvents> m_events;
+    std::unique_ptr<AlertPresenter> m_alerts;
     GuardEnvironment m_environment;
     std::unique_ptr<BrowserManager> m_browserManager;
     std::unique_ptr<EmailClientManager> m_emailClientManager;

@@ -1,0 +1,4 @@
+# The guards' change alerts.
+target_sources(vandorel_ui PRIVATE
+  MessageBoxAlertPresenter.h MessageBoxAlertPresenter.cpp
+)
