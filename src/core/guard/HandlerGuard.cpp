@@ -279,9 +279,8 @@ void HandlerGuard::alertsPresentingChanged(bool presenting)
 {
     if (presenting || !m_tickMissed)
         return;
-    m_tickMissed = false;
-    if (m_monitoringTimer && m_monitoringTimer->isActive())
-        timerFired();
+    m_tickMissed = false; // stopping the monitoring drops it too
+    timerFired();
 }
 
 void HandlerGuard::timerFired()

@@ -205,25 +205,6 @@ private Q_SLOTS:
         QCOMPARE(browser.browserChangeCount(), 1);
     }
 
-    void aMissedTickIsDroppedWhenTheTimerStops()
-    {
-        GuardWorld world;
-        BrowserManager browser(world.environment());
-        EmailClientManager email(world.environment());
-        browser.setTargetDefaultBrowser(firefox());
-        email.setTargetDefaultEmailClient(EmailClient("Thunderbird", "thunderbird"));
-        world.mailDefault("evolution");
-        world.tick();
-        GuardWorld::settle();
-        world.browsersDefault("chromium");
-        world.tick();
-        browser.setCheckInterval(CheckInterval::none);
-        QVERIFY(world.alerts.answer(Answer::second));
-        QCOMPARE(browser.browserChangeCount(), 0);
-        GuardWorld::settle();
-        QVERIFY(!world.alerts.isPresenting());
-    }
-
     void theAnswerToAGoneGuardIsDropped()
     {
         GuardWorld world;

@@ -77,31 +77,16 @@ private Q_SLOTS:
         world.poll(59);
         QVERIFY(browser.isChangingBrowser());
         QVERIFY(!console.contains("⏱️ Timeout"));
+        QCOMPARE(console.lines().last(), QString("📡 Poll 59: chromium vs firefox-esr"));
+        world.handlers.setHandlers("https", {});
+        world.handlers.setHandlers("http", {});
         world.poll();
         QCOMPARE(console.lines().last(), QString("⏱️ Timeout"));
-        QCOMPARE(console.lines().at(console.lines().size() - 2),
-                 QString("📡 Poll 60: chromium vs firefox-esr"));
+        QCOMPARE(console.lines().at(console.lines().size() - 2), QString("📡 Poll 60: none vs firefox-esr"));
         QVERIFY(!browser.isChangingBrowser());
         QVERIFY(!world.pollingTimer());
         QCOMPARE(browser.browserChangeCount(), 0);
         QCOMPARE(console.startingWith("📡 Poll ").size(), 60);
-    }
-
-    void noDefaultAtAllReadsAsNone()
-    {
-        GuardWorld world;
-        world.handlers.setHandlers("https", {});
-        world.handlers.setHandlers("http", {});
-        world.handlers.refuse("https");
-        world.handlers.refuse("http");
-        BrowserManager browser(world.environment());
-        ConsoleCapture console;
-        browser.setDefaultBrowser(firefox());
-        QVERIFY(world.waitForPolling());
-        world.poll();
-        QCOMPARE(console.lines().last(), QString("📡 Poll 1: none vs firefox-esr"));
-        QVERIFY(browser.isChangingBrowser());
-        browser.cancelBrowserChange();
     }
 
     void cancelStopsThePollAndLeavesLaterChangesToTheChecks()
@@ -212,13 +197,6 @@ private Q_SLOTS:
         QCOMPARE(world.handlers.setCalls(), QStringList({"mailto=thunderbird"}));
         QCOMPARE(email.emailChangeCount(), 1);
 
-        world.handlers.refuse("mailto");
-        console.take();
-        email.setDefaultEmailClient(EmailClient("Evolution", "evolution"));
-        QVERIFY(world.waitForPolling());
-        world.poll(60);
-        QCOMPARE(console.lines().mid(2, 2), QStringList({"   mailto: -54", "🔄 Starting email polling"}));
-        QCOMPARE(console.lines().last(), QString("⏱️ Email Timeout"));
         email.setDefaultEmailClient(EmailClient("Evolution", "evolution"));
         QVERIFY(world.waitForPolling());
         console.take();

@@ -150,19 +150,6 @@ private Q_SLOTS:
         QCOMPARE(browser.browserChangeCount(), 3);
     }
 
-    void aGoneGuardsTimerDoesNothing()
-    {
-        GuardWorld world;
-        auto browser = std::make_unique<BrowserManager>(world.environment());
-        browser->setTargetDefaultBrowser(firefox());
-        world.browsersDefault("chromium");
-        browser.reset();
-        ConsoleCapture console;
-        QCOMPARE(world.tick(), 0);
-        Q_EMIT world.events.didWake();
-        QVERIFY(console.lines().isEmpty());
-    }
-
     void theMailGuardWatchesMailto()
     {
         GuardWorld world;

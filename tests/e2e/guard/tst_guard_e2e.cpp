@@ -11,6 +11,7 @@
 #include "platform/freedesktop/FreedesktopHandlerDatabase.h"
 
 #include <QProcess>
+#include <QScopeGuard>
 #include <QStandardPaths>
 #include <QTest>
 
@@ -20,77 +21,32 @@
 using namespace std::chrono_literals;
 
 // The guards against the real freedesktop handler database: another program takes a role
-// over with xdg-mime, the next check finds it, and the change back is what gio reads.
+// over with xdg-mime, the next check finds it, and after the change back gio reads the
+// target again.
 class GuardEndToEndTest : public QObject {
     Q_OBJECT
 
-    struct Machine {
-        XdgTree tree;
-        TempSettings settings;
-        FreedesktopHandlerDatabase handlers;
-        FakeClock clock;
-        FakeTimerFactory timers;
-        ScriptedAlertPresenter alerts;
-        LogManager log{settings.store(), clock};
-        std::unique_ptr<LanguageManager> language;
+    XdgTree *m_tree = nullptr;
 
-        Machine()
-        {
-            language = std::make_unique<LanguageManager>(settings.store(), timers, QStringList{"en"});
-            LanguageManager::setShared(language.get());
-            const QByteArray web = "x-scheme-handler/http;x-scheme-handler/https;";
-            entry("firefox", "Firefox", web);
-            entry("chromium", "Chromium", web);
-            entry("thunderbird", "Thunderbird", "x-scheme-handler/mailto;");
-            entry("evolution", "Evolution", "x-scheme-handler/mailto;");
-            tree.updateCaches();
-        }
-        ~Machine() { LanguageManager::setShared(nullptr); }
+    void entry(const QString &id, const QByteArray &name, const QByteArray &mimeTypes)
+    {
+        const QString program = m_tree->stub(id);
+        m_tree->write(u"share1/applications/" + id + u".desktop",
+                      "[Desktop Entry]\nType=Application\nName=" + name + "\nExec=" + program.toUtf8()
+                          + " %u\nMimeType=" + mimeTypes + "\n");
+    }
 
-        void entry(const QString &id, const QByteArray &name, const QByteArray &mimeTypes)
-        {
-            const QString program = tree.stub(id);
-            tree.write(u"share1/applications/" + id + u".desktop",
-                       "[Desktop Entry]\nType=Application\nName=" + name + "\nExec=" + program.toUtf8()
-                           + " %u\nMimeType=" + mimeTypes + "\n");
-        }
-
-        GuardEnvironment environment()
-        {
-            GuardEnvironment env;
-            env.settings = &settings.store();
-            env.handlers = &handlers;
-            env.clock = &clock;
-            env.timers = &timers;
-            env.alerts = &alerts;
-            env.log = &log;
-            return env;
-        }
-
-        // What another program does: xdg-mime writes the user's mimeapps.list.
-        static bool xdgMimeDefault(const QString &desktopFile, const QStringList &mimeTypes)
-        {
-            QProcess process;
-            process.start("xdg-mime", QStringList{"default", desktopFile} + mimeTypes);
-            return process.waitForFinished(30000) && process.exitStatus() == QProcess::NormalExit
-                   && process.exitCode() == 0;
-        }
-        static QString gioDefault(const QString &scheme)
-        {
-            return XdgTree::gioMime(u"x-scheme-handler/" + scheme).defaultId;
-        }
-
-        void tick() { timers.fire(600s); }
-        // The change's system calls run on a worker; its hand-back starts the poll.
-        [[nodiscard]] bool pollUntilDone(HandlerGuard &guard)
-        {
-            if (!QTest::qWaitFor([&] { return !timers.activeWithInterval(1s).isEmpty(); }, 10000))
-                return false;
-            for (int i = 0; i < 60 && guard.isChanging(); ++i)
-                timers.fire(1s);
-            return !guard.isChanging();
-        }
-    };
+    // What another program does: xdg-mime writes the user's mimeapps.list.
+    static bool xdgMimeDefault(const QString &id, const QStringList &schemes)
+    {
+        QStringList arguments{"default", id + u".desktop"};
+        for (const QString &scheme : schemes)
+            arguments.append(u"x-scheme-handler/" + scheme);
+        QProcess process;
+        process.start("xdg-mime", arguments);
+        return process.waitForFinished(30000) && process.exitStatus() == QProcess::NormalExit
+               && process.exitCode() == 0;
+    }
 
 private Q_SLOTS:
     void initTestCase()
@@ -100,60 +56,101 @@ private Q_SLOTS:
                 QSKIP("the freedesktop tools are not installed");
     }
 
-    void aTakenOverBrowserIsFoundAndChangedBack()
+    void init()
     {
-        Machine machine;
-        QVERIFY(Machine::xdgMimeDefault("firefox.desktop", {"x-scheme-handler/https", "x-scheme-handler/http"}));
-        BrowserManager browser(machine.environment());
-        QCOMPARE(browser.currentDefaultBrowser()->name, QString("Firefox"));
-        browser.setTargetDefaultBrowser(*browser.currentDefaultBrowser());
+        m_tree = new XdgTree;
+        const QByteArray web = "x-scheme-handler/http;x-scheme-handler/https;";
+        entry("firefox", "Firefox", web);
+        entry("chromium", "Chromium", web);
+        entry("thunderbird", "Thunderbird", "x-scheme-handler/mailto;");
+        entry("evolution", "Evolution", "x-scheme-handler/mailto;");
+        m_tree->updateCaches();
+    }
+    void cleanup()
+    {
+        delete m_tree;
+        m_tree = nullptr;
+    }
 
-        QVERIFY(Machine::xdgMimeDefault("chromium.desktop", {"x-scheme-handler/https", "x-scheme-handler/http"}));
+    void aTakenOverRoleIsFoundAndChangedBack_data()
+    {
+        QTest::addColumn<bool>("mail");
+        QTest::addColumn<QStringList>("schemes");
+        QTest::addColumn<QString>("target");
+        QTest::addColumn<QString>("intruder");
+        QTest::addColumn<QStringList>("expected");
+        QTest::newRow("browser")
+            << false << QStringList{"https", "http"} << "firefox" << "chromium"
+            << QStringList{"📝 Log: Browser changed from Firefox to Chromium", "   HTTP: 0, HTTPS: 0",
+                           "📡 Poll 1: firefox vs firefox", "📝 Log: Browser changed from Chromium to Firefox",
+                           "✅ Browser set to Firefox"};
+        QTest::newRow("mail")
+            << true << QStringList{"mailto"} << "thunderbird" << "evolution"
+            << QStringList{"📝 Log: Email client changed from Thunderbird to Evolution", "   mailto: 0",
+                           "📡 Email Poll 1: thunderbird vs thunderbird",
+                           "📝 Log: Email client changed from Evolution to Thunderbird",
+                           "✅ Email client set to Thunderbird"};
+    }
+
+    void aTakenOverRoleIsFoundAndChangedBack()
+    {
+        QFETCH(bool, mail);
+        QFETCH(QStringList, schemes);
+        QFETCH(QString, target);
+        QFETCH(QString, intruder);
+        QFETCH(QStringList, expected);
+
+        TempSettings settings;
+        FreedesktopHandlerDatabase handlers;
+        FakeClock clock;
+        FakeTimerFactory timers;
+        ScriptedAlertPresenter alerts;
+        LogManager log(settings.store(), clock);
+        LanguageManager language(settings.store(), timers, {"en"});
+        LanguageManager::setShared(&language);
+        const auto unshare = qScopeGuard([] { LanguageManager::setShared(nullptr); });
+        GuardEnvironment env;
+        env.settings = &settings.store();
+        env.handlers = &handlers;
+        env.clock = &clock;
+        env.timers = &timers;
+        env.alerts = &alerts;
+        env.log = &log;
+
+        QVERIFY(xdgMimeDefault(target, schemes));
+        std::unique_ptr<HandlerGuard> guard;
+        if (mail)
+            guard = std::make_unique<EmailClientManager>(env);
+        else
+            guard = std::make_unique<BrowserManager>(env);
+        QCOMPARE(guard->currentDefault()->bundleIdentifier, target);
+        guard->setTarget(guard->currentDefault());
+
+        QVERIFY(xdgMimeDefault(intruder, schemes));
         ConsoleCapture console;
-        machine.tick();
-        QCOMPARE(console.lines(), QStringList({"📝 Log: Browser changed from Firefox to Chromium"}));
-        QCOMPARE(browser.browserChangeCount(), 1);
+        timers.fire(600s);
+        QCOMPARE(console.lines(), expected.mid(0, 1));
+        QCOMPARE(guard->changeCount(), 1);
         ScriptedAlertPresenter::settle();
-        QCOMPARE(machine.alerts.shown().size(), 1);
-        QCOMPARE(machine.alerts.shown().first().secondButton, QString("Keep Chromium for now"));
+        QCOMPARE(alerts.shown().size(), 1);
 
-        QVERIFY(machine.alerts.answer(AlertPresenter::Answer::first));
-        QVERIFY(machine.pollUntilDone(browser));
-        QVERIFY(console.contains("   HTTP: 0, HTTPS: 0"));
-        QVERIFY(console.contains("📡 Poll 1: firefox vs firefox"));
-        QVERIFY(console.contains("📝 Log: Browser changed from Chromium to Firefox"));
-        QCOMPARE(console.lines().last(), QString("✅ Browser set to Firefox"));
-        QCOMPARE(browser.browserChangeCount(), 2);
-        QCOMPARE(Machine::gioDefault("https"), QString("firefox.desktop"));
-        QCOMPARE(Machine::gioDefault("http"), QString("firefox.desktop"));
+        QVERIFY(alerts.answer(AlertPresenter::Answer::first));
+        // The system calls run on a worker; its hand-back starts the poll.
+        QVERIFY(QTest::qWaitFor([&] { return !timers.activeWithInterval(1s).isEmpty(); }, 10000));
+        timers.fire(1s);
+        QVERIFY(!guard->isChanging());
+        for (const QString &line : expected)
+            QVERIFY2(console.contains(line), qPrintable(line));
+        QCOMPARE(console.lines().last(), expected.last());
+        QCOMPARE(guard->changeCount(), 2);
+        for (const QString &scheme : schemes)
+            QCOMPARE(XdgTree::gioMime(u"x-scheme-handler/" + scheme).defaultId, target + u".desktop");
 
         // Back in place: the next check is quiet.
         console.take();
-        machine.tick();
+        timers.fire(600s);
         QVERIFY(console.lines().isEmpty());
-        QCOMPARE(browser.browserChangeCount(), 2);
-    }
-
-    void aTakenOverMailClientIsFoundAndChangedBack()
-    {
-        Machine machine;
-        QVERIFY(Machine::xdgMimeDefault("thunderbird.desktop", {"x-scheme-handler/mailto"}));
-        EmailClientManager email(machine.environment());
-        QCOMPARE(email.currentDefaultEmailClient()->name, QString("Thunderbird"));
-        email.setTargetDefaultEmailClient(*email.currentDefaultEmailClient());
-
-        QVERIFY(Machine::xdgMimeDefault("evolution.desktop", {"x-scheme-handler/mailto"}));
-        ConsoleCapture console;
-        machine.tick();
-        QCOMPARE(console.lines(), QStringList({"📝 Log: Email client changed from Thunderbird to Evolution"}));
-        QCOMPARE(email.emailChangeCount(), 1);
-        ScriptedAlertPresenter::settle();
-        QVERIFY(machine.alerts.answer(AlertPresenter::Answer::first));
-        QVERIFY(machine.pollUntilDone(email));
-        QVERIFY(console.contains("   mailto: 0"));
-        QCOMPARE(console.lines().last(), QString("✅ Email client set to Thunderbird"));
-        QCOMPARE(email.emailChangeCount(), 2);
-        QCOMPARE(Machine::gioDefault("mailto"), QString("thunderbird.desktop"));
+        QCOMPARE(guard->changeCount(), 2);
     }
 };
 
