@@ -1,5 +1,6 @@
 #include "XdgTree.h"
 
+#include <QElapsedTimer>
 #include <QFile>
 #include <QJsonArray>
 #include <QJsonDocument>
@@ -87,6 +88,40 @@ class AppTest : public QObject {
     QString settingsPath() const
     {
         return m_tree->path(QStringLiteral("config/io.kestrane.vandorel/settings.ini"));
+    }
+
+    // Runs the program for a while and notes when each change-log line arrived, in ms
+    // from the start.
+    QList<qint64> changeLogTimes(const QStringList &arguments, QByteArray *out)
+    {
+        QProcess program;
+        QProcessEnvironment env = QProcessEnvironment::systemEnvironment();
+        env.insert(QStringLiteral("QT_QPA_PLATFORM"), QStringLiteral("offscreen"));
+        program.setProcessEnvironment(env);
+        QElapsedTimer clock;
+        clock.start();
+        program.start(QStringLiteral(VANDOREL_BINARY), arguments);
+        QList<qint64> times;
+        while (clock.elapsed() < 4500) {
+            program.waitForReadyRead(100);
+            *out += program.readAllStandardOutput();
+            while (times.size() < out->count("📝 Log: "))
+                times << clock.elapsed();
+        }
+        program.kill();
+        program.waitForFinished(5000);
+        return times;
+    }
+
+    void writeMismatchingTarget()
+    {
+        QVERIFY(run(QStringLiteral("gio"), {"mime", "x-scheme-handler/https", "chromium.desktop"}));
+        QVERIFY(run(QStringLiteral("gio"), {"mime", "x-scheme-handler/http", "chromium.desktop"}));
+        m_tree->write(QStringLiteral("config/io.kestrane.vandorel/settings.ini"),
+                      "[General]\nhasLaunchedBefore=true\nmonitoringEnabled=true\ncheckInterval=10min\n"
+                      "checkOnLogin=true\n"
+                      "targetDefaultBrowser=\"@ByteArray({\\\"id\\\":\\\"6F1C1E3A-27D5-4B8E-9D0A-3C2B1A0F9E8D\\\","
+                      "\\\"name\\\":\\\"Firefox ESR\\\",\\\"bundleIdentifier\\\":\\\"firefox-esr\\\"})\"\n");
     }
 
 private Q_SLOTS:
@@ -213,6 +248,23 @@ private Q_SLOTS:
         QVERIFY(!out2.contains("First launch"));
         again.kill();
         again.waitForFinished(5000);
+    }
+
+    // The check at start counts the change away from the target; a launch at login
+    // checks once more two seconds later.
+    void aLaunchAtLoginChecksAgainTwoSecondsLater()
+    {
+        writeMismatchingTarget();
+        QByteArray out;
+        const QList<qint64> times = changeLogTimes({QStringLiteral("--login")}, &out);
+        QVERIFY2(out.contains("🚀 Launched at login\n"), out.constData());
+        QCOMPARE(times.size(), 2);
+        QVERIFY2(times[1] - times[0] >= 1800 && times[1] - times[0] <= 3000,
+                 qPrintable(QString::number(times[1] - times[0])));
+
+        out.clear();
+        QCOMPARE(changeLogTimes({}, &out).size(), 1);
+        QVERIFY(!out.contains("Launched at login"));
     }
 };
 
