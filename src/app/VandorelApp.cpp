@@ -8,14 +8,18 @@
 #include "core/support/Console.h"
 #include "core/support/QtTimerFactory.h"
 #include "core/support/SystemClock.h"
+#include "core/telemetry/AptabaseManager.h"
 #include "core/updates/UpdateManager.h"
 #include "platform/PlatformBackend.h"
 #include "ui/MessageBoxAlertPresenter.h"
 #include "ui/UpdateDialogPresenter.h"
 
+#include "aptabase/Aptabase.h"
+
 #include "BuildConfig.h"
 
 #include <QCoreApplication>
+#include <QGuiApplication>
 #include <QTimer>
 
 #include <cstdlib>
@@ -23,6 +27,13 @@
 VandorelApp::VandorelApp(const Options &options)
 {
     ensureSingleInstance();
+    AptabaseManager::shared();
+    // Events wait in the queue until a window of ours first becomes active.
+    connect(qGuiApp, &QGuiApplication::applicationStateChanged, this, [](Qt::ApplicationState state) {
+        if (state == Qt::ApplicationActive)
+            Aptabase::shared().startPolling();
+    });
+    connect(qApp, &QCoreApplication::aboutToQuit, this, [] { Aptabase::shared().stopPolling(); });
     UpdateManager::shared().setPresenter(std::make_shared<UpdateDialogPresenter>());
 
     m_handlers = PlatformBackend::createHandlerDatabase();

@@ -1,6 +1,7 @@
 #include "core/guard/GuardProfile.h"
 
 #include "core/changelog/LogManager.h"
+#include "core/telemetry/AptabaseManager.h"
 
 namespace {
 
@@ -45,6 +46,8 @@ GuardProfile makeBrowserProfile()
     p.telemetryType = QStringLiteral("browser");
     p.settingsPrefix = QStringLiteral("browser");
     p.alertType = QStringLiteral("browser_changed");
+    p.trackTargetSet = &AptabaseManager::trackBrowserSet;
+    p.trackDefaultChanged = &AptabaseManager::trackBrowserChanged;
     p.alertTitleKey = QStringLiteral("alert_browser_changed_title");
     p.alertMessageKey = QStringLiteral("alert_browser_changed_message %@ %@");
     p.logChange = &LogManager::logBrowserChange;
@@ -111,6 +114,8 @@ GuardProfile makeEmailProfile()
     p.telemetryType = QStringLiteral("email");
     p.settingsPrefix = QStringLiteral("email");
     p.alertType = QStringLiteral("email_client_changed");
+    p.trackTargetSet = &AptabaseManager::trackEmailClientSet;
+    p.trackDefaultChanged = &AptabaseManager::trackEmailClientChanged;
     p.alertTitleKey = QStringLiteral("alert_email_changed_title");
     p.alertMessageKey = QStringLiteral("alert_email_changed_message %@ %@");
     p.logChange = &LogManager::logEmailChange;

@@ -42,6 +42,9 @@ struct GuardProfile {
     QString telemetryType;   // "browser" / "email"
     QString settingsPrefix;  // "browser" / "email" in "browser_check_interval"
     QString alertType;       // "browser_changed" / "email_client_changed"
+    // The analytics operations of a new target and of a change of default.
+    void (*trackTargetSet)(const QString &name);
+    void (*trackDefaultChanged)(const QString &from, const QString &to, bool autoFix);
 
     // Text keys of the change alert.
     QString alertTitleKey;

@@ -9,6 +9,7 @@
 #include "core/support/TextFormat.h"
 #include "core/support/Timer.h"
 #include "core/support/TimerFactory.h"
+#include "core/telemetry/AptabaseManager.h"
 #include "platform/HandlerDatabase.h"
 #include "platform/SystemEvents.h"
 
@@ -462,10 +463,37 @@ void HandlerGuard::snoozeMonitoring()
 
 // --- telemetry call sites -----------------------------------------------------------------------
 
-void HandlerGuard::trackTargetSet(const QString &) {}
-void HandlerGuard::trackMonitoringToggled(bool) {}
-void HandlerGuard::trackSettingChanged(const QString &, const QString &) {}
-void HandlerGuard::trackDefaultChanged(const QString &, const QString &, bool) {}
-void HandlerGuard::trackAlertShown(const QString &) {}
-void HandlerGuard::trackAlertAction(const QString &, const QString &) {}
-void HandlerGuard::trackSnoozeActivated(const QString &, const QString &) {}
+void HandlerGuard::trackTargetSet(const QString &name)
+{
+    m_profile.trackTargetSet(name);
+}
+
+void HandlerGuard::trackMonitoringToggled(bool enabled)
+{
+    AptabaseManager::trackMonitoringToggled(m_profile.telemetryType, enabled);
+}
+
+void HandlerGuard::trackSettingChanged(const QString &setting, const QString &value)
+{
+    AptabaseManager::trackSettingsChanged(setting, value);
+}
+
+void HandlerGuard::trackDefaultChanged(const QString &from, const QString &to, bool autoFix)
+{
+    m_profile.trackDefaultChanged(from, to, autoFix);
+}
+
+void HandlerGuard::trackAlertShown(const QString &type)
+{
+    AptabaseManager::trackAlertShown(type);
+}
+
+void HandlerGuard::trackAlertAction(const QString &type, const QString &action)
+{
+    AptabaseManager::trackAlertAction(type, action);
+}
+
+void HandlerGuard::trackSnoozeActivated(const QString &type, const QString &duration)
+{
+    AptabaseManager::trackSnoozeActivated(type, duration);
+}

@@ -12,8 +12,6 @@
 
 namespace {
 
-const QString appKey = QStringLiteral("A-EU-3948201756");
-
 QString orUnknown(const QString &code)
 {
     return code.isEmpty() ? QStringLiteral("unknown") : code;
@@ -39,11 +37,11 @@ QString regionCode(const QLocale &locale)
 
 AptabaseManager &AptabaseManager::shared()
 {
-    static AptabaseManager manager;
+    static AptabaseManager manager(QStringLiteral("A-EU-3948201756"));
     return manager;
 }
 
-AptabaseManager::AptabaseManager()
+AptabaseManager::AptabaseManager(const QString &appKey)
 {
     m_isInitialized = false;
     Aptabase::shared().initialize(appKey);

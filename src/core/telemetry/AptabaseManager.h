@@ -25,15 +25,16 @@ public:
     static void trackAlertAction(const QString &type, const QString &action);
     static void trackSnoozeActivated(const QString &type, const QString &duration);
 
-    // The seven string properties that describe this system; a fresh map on every call.
-    static QVariantMap systemProperties();
-
+    // Starts the analytics client with `appKey`; shared() uses the product's own key.
+    // A key the client refuses leaves every track* operation silent.
+    explicit AptabaseManager(const QString &appKey);
     AptabaseManager(const AptabaseManager &) = delete;
     AptabaseManager &operator=(const AptabaseManager &) = delete;
 
 private:
-    AptabaseManager();
-
+    // The seven string properties that describe this system; a fresh map on every call.
+    static QVariantMap systemProperties();
+    // The call's properties win over the system's on an equal key.
     static void trackWithSystem(const QString &eventName, const QVariantMap &with);
     static QString getDeviceModel();
 
