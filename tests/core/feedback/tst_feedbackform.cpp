@@ -1,5 +1,4 @@
-#include "../../aptabase/LoopbackIngestion.h"
-#include "aptabase/Aptabase.h"
+#include "LoopbackTelemetry.h"
 #include "core/feedback/FeedbackForm.h"
 #include "core/feedback/UserPerceivedText.h"
 #include "core/i18n/LanguageManager.h"
@@ -40,37 +39,6 @@ private:
     static inline QStringList s_lines;
 };
 
-// The application's analytics client pointed at a loopback ingestion server; events go out
-// only on flush().
-struct Telemetry {
-    LoopbackIngestion server;
-    Aptabase aptabase;
-
-    Telemetry()
-    {
-        if (server.listen())
-            aptabase.initialize(QStringLiteral("A-SH-7700112233"),
-                                InitOptions(server.baseUrl(), 3600, TrackingMode::asRelease()));
-        Aptabase::setShared(&aptabase);
-        aptabase.startPolling();
-    }
-    ~Telemetry() { Aptabase::setShared(nullptr); }
-
-    // Every event sent so far, as name and properties.
-    QList<QPair<QString, QJsonObject>> events()
-    {
-        aptabase.flush();
-        QTest::qWait(150);
-        static_cast<void>(QTest::qWaitFor([&] { return server.openRequests == 0; }, 2000));
-        QList<QPair<QString, QJsonObject>> all;
-        for (const LoopbackIngestion::Request &request : server.requests)
-            for (const QJsonValue &event : request.events())
-                all.append({event[QLatin1String("eventName")].toString(),
-                            event[QLatin1String("props")].toObject()});
-        return all;
-    }
-};
-
 // German texts over a private store, a standing clock, and a feedback server on loopback
 // (the ingestion server stands in for it: it records each request and answers as scripted).
 struct Rig {
@@ -80,7 +48,7 @@ struct Rig {
     LanguageManager language{settings.store(), timers, {}};
     FakeClock clock{QDateTime(QDate(2024, 2, 29), QTime(23, 59, 59, 987), QTimeZone(3600))};
     LoopbackIngestion server;
-    Telemetry telemetry;
+    LoopbackTelemetry telemetry;
     FeedbackLog log;
     std::unique_ptr<FeedbackForm> form;
 
