@@ -89,7 +89,8 @@ private Q_SLOTS:
         store.setString("snoozeDuration", "forever");
         store.setString("monitoringEnabled", "sure");
         store.setString("lastBrowserChange", "yesterday");
-        for (SettingsStore *s : {&store, &world.settings.reopen()}) {
+        for (int pass = 0; pass < 2; ++pass) {
+            SettingsStore *s = pass == 0 ? &store : &world.settings.reopen();
             GuardEnvironment env = world.environment();
             env.settings = s;
             BrowserManager browser(env);
