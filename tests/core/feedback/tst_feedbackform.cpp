@@ -216,17 +216,6 @@ private Q_SLOTS:
                  lines.last());
     }
 
-    void aRefusedConnectionFails()
-    {
-        Rig rig;
-        rig.server.close();
-        QVERIFY(rig.send());
-        QVERIFY(rig.form->showErrorAlert());
-        const QStringList lines = FeedbackLog::take();
-        QCOMPARE(lines.size(), 2);
-        QVERIFY2(lines.last().startsWith(u"error: Feedback send exception: "), qPrintable(lines.last()));
-    }
-
     void noApiKeyShowsTheErrorWithoutRequestOrTelemetry()
     {
         Rig rig(QString{});

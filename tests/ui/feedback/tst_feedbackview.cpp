@@ -289,6 +289,17 @@ private Q_SLOTS:
         QCOMPARE(views, 2);
     }
 
+    void textsFollowALanguageChange()
+    {
+        Rig rig;
+        rig.language.setCurrentLanguage(AppLanguage::german);
+        rig.timers.fire(50ms);
+        QCOMPARE(rig.view->tagButton(FeedbackTag::translation)->text(), rig.text("feedback_tag_translation"));
+        QCOMPARE(rig.edit()->placeholderText(), rig.text("feedback_text_placeholder"));
+        QCOMPARE(rig.view->sendButton()->text(), rig.text("feedback_send"));
+        QVERIFY(rig.view->sendButton()->text() != QStringLiteral("Send"));
+    }
+
     void rendersInLightAndDark_data()
     {
         QTest::addColumn<bool>("dark");
