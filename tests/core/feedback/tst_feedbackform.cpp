@@ -1,4 +1,4 @@
-#include "LoopbackTelemetry.h"
+#include "LoopbackAnalytics.h"
 #include "core/feedback/FeedbackForm.h"
 #include "core/feedback/UserPerceivedText.h"
 #include "core/i18n/LanguageManager.h"
@@ -48,7 +48,7 @@ struct Rig {
     LanguageManager language{settings.store(), timers, {}};
     FakeClock clock{QDateTime(QDate(2024, 2, 29), QTime(23, 59, 59, 987), QTimeZone(3600))};
     LoopbackIngestion server;
-    LoopbackTelemetry telemetry;
+    LoopbackAnalytics telemetry;
     FeedbackLog log;
     std::unique_ptr<FeedbackForm> form;
 
@@ -57,6 +57,7 @@ struct Rig {
         language.setCurrentLanguage(AppLanguage::german);
         timers.fire(50ms);
         static_cast<void>(server.listen());
+        telemetry.aptabase.startPolling();
         FeedbackForm::Options options;
         options.endpointURL = QUrl(server.baseUrl() + u"/api/feedback");
         options.apiKey = apiKey;
@@ -131,7 +132,7 @@ private Q_SLOTS:
         QCOMPARE(FeedbackLog::take(),
                  QStringList({rig.sendingLine(),
                               u"info: Feedback sent successfully: status=" + QString::number(status)}));
-        const auto events = rig.telemetry.events();
+        const auto events = rig.telemetry.flushedEvents();
         QCOMPARE(events.size(), 1);
         QCOMPARE(events.first().first, "feedback_sent");
         QCOMPARE(events.first().second,
@@ -178,7 +179,7 @@ private Q_SLOTS:
                                   .arg(status)
                                   .arg(loggedBody),
                               u"error: Feedback send exception: " + reason}));
-        const auto events = rig.telemetry.events();
+        const auto events = rig.telemetry.flushedEvents();
         QCOMPARE(events.size(), 1);
         QCOMPARE(events.first().first, "feedback_send_failed");
         QCOMPARE(events.first().second, QJsonObject({{"reason", reason}}));
@@ -209,7 +210,7 @@ private Q_SLOTS:
         QCOMPARE(lines.size(), 2);
         QCOMPARE(lines.first(), rig.sendingLine());
         QVERIFY2(lines.last().startsWith(u"error: Feedback send exception: "), qPrintable(lines.last()));
-        const auto events = rig.telemetry.events();
+        const auto events = rig.telemetry.flushedEvents();
         QCOMPARE(events.size(), 1);
         QCOMPARE(events.first().first, "feedback_send_failed");
         QCOMPARE(u"error: Feedback send exception: " + events.first().second["reason"].toString(),
@@ -228,7 +229,7 @@ private Q_SLOTS:
                  QStringList(QStringLiteral("error: Feedback send aborted: missing FeedbackAPIKey in Info.plist")));
         QTest::qWait(100);
         QVERIFY(rig.server.requests.isEmpty());
-        QVERIFY(rig.telemetry.events().isEmpty());
+        QVERIFY(rig.telemetry.flushedEvents().isEmpty());
     }
 
     void praiseGoesOutWithoutWordsButOtherTagsNeedThem()

@@ -1,6 +1,6 @@
 #include "../guard/GuardWorld.h"
 #include "../../aptabase/CapturedLines.h"
-#include "../../aptabase/LoopbackIngestion.h"
+#include "LoopbackAnalytics.h"
 #include "aptabase/Aptabase.h"
 #include "aptabase/EventDispatcher.h"
 #include "core/guard/BrowserManager.h"
@@ -15,38 +15,6 @@
 #include <QSysInfo>
 
 namespace {
-
-// An analytics client on a loopback ingestion server that stands in for the application's
-// own while it lives. Its flush timer is far off: events go out on activation or flush().
-struct Ingestion {
-    LoopbackIngestion server;
-    Aptabase aptabase;
-
-    Ingestion()
-    {
-        if (server.listen())
-            aptabase.initialize(QStringLiteral("A-SH-7700112233"),
-                                InitOptions(server.baseUrl(), 3600, TrackingMode::asRelease()));
-        Aptabase::setShared(&aptabase);
-    }
-    ~Ingestion() { Aptabase::setShared(nullptr); }
-
-    QJsonArray events() const
-    {
-        QJsonArray all;
-        for (const LoopbackIngestion::Request &request : server.requests)
-            for (const QJsonValue &event : request.events())
-                all.append(event);
-        return all;
-    }
-    // Waits until `count` events in all have arrived, and a little longer for any extra.
-    QJsonArray arrived(qsizetype count) const
-    {
-        static_cast<void>(QTest::qWaitFor([&] { return events().size() >= count; }, 5000));
-        QTest::qWait(50);
-        return events();
-    }
-};
 
 QJsonObject merged(QJsonObject base, const QJsonObject &more)
 {
@@ -109,7 +77,7 @@ class TelemetryTest : public QObject {
 private Q_SLOTS:
     void firstLaunchEventsWaitForTheFirstActivation()
     {
-        Ingestion ingestion;
+        LoopbackAnalytics ingestion;
         QVERIFY(ingestion.aptabase.client());
         GuardWorld world;
         BrowserManager browser(world.environment());
@@ -144,7 +112,7 @@ private Q_SLOTS:
     // client's is taken over and kept, which snoozes.
     void changesOfDefaultAndTheirAlerts()
     {
-        Ingestion ingestion;
+        LoopbackAnalytics ingestion;
         GuardWorld world;
         BrowserManager browser(world.environment());
         EmailClientManager email(world.environment());
@@ -205,7 +173,7 @@ private Q_SLOTS:
     // The operations that no guard calls, with the values their callers pass.
     void otherOperationsPassTheServiceChecks()
     {
-        Ingestion ingestion;
+        LoopbackAnalytics ingestion;
         ingestion.aptabase.startPolling();
         AptabaseManager::trackAppLaunched();
         AptabaseManager::trackAppTerminated();
@@ -227,7 +195,7 @@ private Q_SLOTS:
 
     void systemPropertiesFollowTheSystemLocale()
     {
-        Ingestion ingestion;
+        LoopbackAnalytics ingestion;
         AptabaseManager::trackBrowserSet("Web");
         ingestion.aptabase.startPolling();
         const QJsonArray events = ingestion.arrived(1);
@@ -240,7 +208,7 @@ private Q_SLOTS:
     void startUpReportsItselfWhateverTheClientMakesOfTheKey()
     {
         {
-            Ingestion ingestion;
+            LoopbackAnalytics ingestion;
             Aptabase refusing;
             Aptabase::setShared(&refusing);
             ConsoleCapture console;

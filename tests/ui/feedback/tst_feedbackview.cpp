@@ -1,4 +1,4 @@
-#include "../../core/feedback/LoopbackTelemetry.h"
+#include "LoopbackAnalytics.h"
 #include "core/feedback/UserPerceivedText.h"
 #include "core/i18n/LanguageManager.h"
 #include "ui/feedback/FeedbackTagButton.h"
@@ -32,7 +32,7 @@ struct Rig {
     FakeTimerFactory timers;
     LanguageManager language{settings.store(), timers, {}};
     LoopbackIngestion server;
-    LoopbackTelemetry telemetry;
+    LoopbackAnalytics telemetry;
     std::unique_ptr<FeedbackView> view;
     QList<FeedbackView::Alert> alerts;
     std::function<void()> dismiss;
@@ -40,6 +40,7 @@ struct Rig {
     explicit Rig(const QString &apiKey = QStringLiteral("key-123"))
     {
         static_cast<void>(server.listen());
+        telemetry.aptabase.startPolling();
         FeedbackForm::Options options;
         options.endpointURL = QUrl(server.baseUrl() + u"/api/feedback");
         options.apiKey = apiKey;
@@ -281,7 +282,7 @@ private Q_SLOTS:
         rig.view->hide();
         rig.view->show();
         int views = 0;
-        for (const auto &[name, props] : rig.telemetry.events()) {
+        for (const auto &[name, props] : rig.telemetry.flushedEvents()) {
             QCOMPARE(name, QStringLiteral("screen_view"));
             QCOMPARE(props.value(QStringLiteral("screen_name")).toString(), QStringLiteral("settings_feedback"));
             ++views;
