@@ -1,5 +1,7 @@
 #include "ui/feedback/FeedbackTagButton.h"
 
+#include "ui/Colours.h"
+
 #include <QPainter>
 
 namespace {
@@ -8,12 +10,6 @@ constexpr int horizontalPadding = 12;
 constexpr int verticalPadding = 8;
 constexpr double radius = 8.0;
 constexpr double smallestTextScale = 0.9;
-
-QColor withAlpha(QColor colour, double alpha)
-{
-    colour.setAlphaF(static_cast<float>(alpha));
-    return colour;
-}
 
 } // namespace
 

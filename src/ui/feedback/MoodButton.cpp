@@ -1,5 +1,7 @@
 #include "ui/feedback/MoodButton.h"
 
+#include "ui/Colours.h"
+
 #include <QEnterEvent>
 #include <QPainter>
 #include <QRadialGradient>
@@ -11,12 +13,6 @@ constexpr double emphasisScale = 1.16;
 constexpr double hoverLift = 3.0;
 constexpr double faintOpacity = 0.58;
 constexpr int emojiPixelSize = 28;
-
-QColor withAlpha(QColor colour, double alpha)
-{
-    colour.setAlphaF(static_cast<float>(alpha));
-    return colour;
-}
 
 QImage greyed(const QImage &source)
 {
