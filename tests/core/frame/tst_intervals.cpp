@@ -23,8 +23,6 @@ private Q_SLOTS:
         QCOMPARE(snoozes, QStringList({"15min", "30min", "1hour", "4hours", "today"}));
         QVERIFY(!CheckInterval::fromRawValue("10MIN"));
         QVERIFY(!SnoozeDuration::fromRawValue(""));
-        QCOMPARE(CheckInterval(CheckInterval::daily).timeInterval(), 86400.0);
-        QCOMPARE(SnoozeDuration(SnoozeDuration::fourHours).timeInterval(QDateTime()), 14400.0);
     }
 
     void todayEndsOneSecondBeforeMidnightLocally()
@@ -33,8 +31,7 @@ private Q_SLOTS:
         const SnoozeDuration today = SnoozeDuration::today;
         const QDateTime morning(QDate(2026, 6, 1), QTime(9, 0, 0));
         QCOMPARE(today.timeInterval(morning), 14 * 3600.0 + 59 * 60 + 59);
-        const QDateTime lastSecond(QDate(2026, 6, 1), QTime(23, 59, 59, 500));
-        QCOMPARE(today.timeInterval(lastSecond), -0.5);
+        QCOMPARE(today.timeInterval(QDateTime(QDate(2026, 6, 1), QTime(23, 59, 59, 500))), -0.5);
         // The day the clocks go forward is an hour shorter.
         const QDateTime springMorning(QDate(2026, 3, 29), QTime(0, 30, 0));
         QCOMPARE(today.timeInterval(springMorning), 22 * 3600.0 + 29 * 60 + 59);

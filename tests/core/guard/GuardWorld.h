@@ -18,10 +18,7 @@
 
 using namespace std::chrono_literals;
 
-// One machine for the guard's cycle: a settings file, a handler database with three
-// browsers and two mail clients, a clock and timers that move only when told, the user
-// in front of the alerts, the change log and the system events.
-//
+// A machine for the guard's cycle; clock and timers move only when told.
 // Browsers: firefox-esr "Firefox", chromium "Chromium", epiphany "Web".
 // Mail:     thunderbird "Thunderbird", evolution "Evolution".
 struct GuardWorld {
@@ -39,14 +36,12 @@ struct GuardWorld {
 
     GuardWorld()
     {
-        // English texts, whatever the machine's language.
         language = std::make_unique<LanguageManager>(settings.store(), timers, QStringList{"en"});
         LanguageManager::setShared(language.get());
-        handlers.install("firefox-esr", QString("Firefox"));
-        handlers.install("chromium", QString("Chromium"));
-        handlers.install("epiphany", QString("Web"));
-        handlers.install("thunderbird", QString("Thunderbird"));
-        handlers.install("evolution", QString("Evolution"));
+        for (const auto &[id, name] : {std::pair("firefox-esr", "Firefox"), {"chromium", "Chromium"},
+                                       {"epiphany", "Web"}, {"thunderbird", "Thunderbird"},
+                                       {"evolution", "Evolution"}})
+            handlers.install(id, QString(name));
         browsersDefault("firefox-esr");
         mailDefault("thunderbird");
     }
@@ -54,18 +49,10 @@ struct GuardWorld {
 
     GuardEnvironment environment()
     {
-        GuardEnvironment env;
-        env.settings = &settings.store();
-        env.handlers = &handlers;
-        env.clock = &clock;
-        env.timers = &timers;
-        env.alerts = &alerts;
-        env.log = &log;
-        env.events = &events;
-        return env;
+        return {&settings.store(), &handlers, &clock, &timers, &alerts, &log, &events};
     }
 
-    // Another program takes the role over (the other installed ones follow it).
+    // Another program takes the role over; the other browsers follow it.
     void browsersDefault(const QString &identifier)
     {
         QStringList order{identifier};
@@ -80,9 +67,7 @@ struct GuardWorld {
         handlers.setHandlers("mailto", {identifier});
     }
 
-    // The monitoring timers of the default ten-minute interval fire once.
     int tick() { return timers.fire(tenMinutes); }
-    // The change transaction's timers fire `count` times.
     void poll(int count = 1)
     {
         for (int i = 0; i < count; ++i)
@@ -93,8 +78,7 @@ struct GuardWorld {
         const auto running = timers.activeWithInterval(pollPeriod);
         return running.isEmpty() ? nullptr : running.first();
     }
-    // The system calls of a change run on a worker; wait for its hand-back to the main
-    // thread, which starts the polling timer. Only the main thread's state is looked at.
+    // A change's system calls run on a worker; its hand-back starts the polling timer.
     [[nodiscard]] bool waitForPolling(int startsBefore = 0)
     {
         return QTest::qWaitFor([&] { return pollingStarts() > startsBefore && pollingTimer(); }, 5000);
@@ -107,6 +91,5 @@ struct GuardWorld {
                 starts += timer->starts();
         return starts;
     }
-    // Queued alerts go on screen.
     static void settle() { ScriptedAlertPresenter::settle(); }
 };

@@ -2,8 +2,7 @@
 #include "core/guard/BrowserManager.h"
 #include "core/guard/EmailClientManager.h"
 
-// Setting a default: the system calls off the main thread, then a poll once a second, at
-// most 60 times, until the resolved default is the one asked for.
+// Setting a default: system calls on a worker, then a poll once a second, at most 60 times.
 class ChangeTransactionTest : public QObject {
     Q_OBJECT
 
@@ -89,7 +88,7 @@ private Q_SLOTS:
         QCOMPARE(console.startingWith("📡 Poll ").size(), 60);
     }
 
-    void cancelStopsThePollAndLeavesLaterChangesToTheChecks()
+    void cancelStopsThePollOrLetsALateOneRunWithTheFlagDown()
     {
         GuardWorld world;
         world.browsersDefault("chromium");
@@ -107,23 +106,19 @@ private Q_SLOTS:
         world.poll(5);
         QVERIFY(console.lines().isEmpty());
         QCOMPARE(browser.browserChangeCount(), 0);
-    }
 
-    void aCancelBeforeThePollStartsLetsItRunWithTheFlagDown()
-    {
-        GuardWorld world;
-        world.browsersDefault("chromium");
-        BrowserManager browser(world.environment());
-        ConsoleCapture console;
-        browser.setDefaultBrowser(firefox());
-        browser.cancelBrowserChange(); // the worker's hand-back is still ahead
-        QVERIFY(!browser.isChangingBrowser());
-        QVERIFY(world.waitForPolling());
-        QVERIFY(!browser.isChangingBrowser());
-        world.poll();
-        QVERIFY(!browser.isChangingBrowser());
+        // Cancelled before the worker hands back: the poll still runs, the flag stays down.
+        GuardWorld fresh;
+        fresh.browsersDefault("chromium");
+        BrowserManager early(fresh.environment());
+        early.setDefaultBrowser(firefox());
+        early.cancelBrowserChange();
+        QVERIFY(!early.isChangingBrowser());
+        QVERIFY(fresh.waitForPolling());
+        fresh.poll();
+        QVERIFY(!early.isChangingBrowser());
         QCOMPARE(console.lines().last(), QString("✅ Browser set to Firefox"));
-        QCOMPARE(browser.browserChangeCount(), 1);
+        QCOMPARE(early.browserChangeCount(), 1);
     }
 
     void aSecondRequestStartsThePollAfresh()
@@ -170,8 +165,7 @@ private Q_SLOTS:
         QCOMPARE(console.lines(), QStringList({"📝 Log: Browser changed from Chromium to Chromium"}));
         GuardWorld::settle();
         QCOMPARE(world.alerts.shown().size(), 1);
-        // The poll is not held back by the alert on screen.
-        world.poll();
+        world.poll(); // not held back by the alert on screen
         QCOMPARE(console.lines().last(), QString("📡 Poll 1: chromium vs firefox-esr"));
         browser.cancelBrowserChange();
     }
@@ -196,13 +190,6 @@ private Q_SLOTS:
                                                "✅ Email client set to Thunderbird"}));
         QCOMPARE(world.handlers.setCalls(), QStringList({"mailto=thunderbird"}));
         QCOMPARE(email.emailChangeCount(), 1);
-
-        email.setDefaultEmailClient(EmailClient("Evolution", "evolution"));
-        QVERIFY(world.waitForPolling());
-        console.take();
-        email.cancelEmailClientChange();
-        QCOMPARE(console.lines(), QStringList({"🛑 User cancelled email client change"}));
-        QVERIFY(!email.isChangingEmailClient());
     }
 };
 

@@ -2,17 +2,15 @@
 #include "core/guard/BrowserManager.h"
 #include "core/guard/EmailClientManager.h"
 
-#include <QSignalSpy>
-
-// The monitoring loop: the timer and the immediate check of startMonitoring, what a
-// check records on a mismatch, and the odd rules it keeps on purpose.
+// The monitoring loop: the timer, the immediate check of startMonitoring, what a check
+// records on a mismatch, and the odd rules it keeps on purpose.
 class MonitoringTest : public QObject {
     Q_OBJECT
 
     static Browser firefox() { return Browser("Firefox", "firefox-esr"); }
 
 private Q_SLOTS:
-    void aMismatchIsLoggedCountedAndAlerted()
+    void aMismatchIsLoggedCountedAndAlertedOnEveryCheck()
     {
         GuardWorld world;
         BrowserManager browser(world.environment());
@@ -28,9 +26,8 @@ private Q_SLOTS:
         QCOMPARE(browser.browserChangeCount(), 1);
         QCOMPARE(browser.lastBrowserChange(), world.clock.now());
         QCOMPARE(browser.currentDefaultBrowser()->bundleIdentifier, QString("chromium"));
-        const auto logs = world.log.getAllLogs();
-        QCOMPARE(logs.size(), 1);
-        QCOMPARE(logs.first().message, QString("Browser changed from Firefox to Chromium"));
+        QCOMPARE(world.log.getAllLogs().size(), 1);
+        QCOMPARE(world.log.getAllLogs().first().message, QString("Browser changed from Firefox to Chromium"));
 
         // The alert goes on screen on a later turn, not inside the check.
         QVERIFY(world.alerts.shown().isEmpty());
@@ -43,76 +40,61 @@ private Q_SLOTS:
         QCOMPARE(alert.firstButton, QString("Change back"));
         QCOMPARE(alert.secondButton, QString("Keep Chromium for now"));
         QCOMPARE(alert.symbolName, QString("exclamationmark.shield"));
-    }
 
-    void aDefaultThatStaysAwayCountsOnEveryCheck()
-    {
-        GuardWorld world;
-        BrowserManager browser(world.environment());
-        browser.setTargetDefaultBrowser(firefox());
-        world.browsersDefault("chromium");
-        ConsoleCapture console;
+        // A default that stays away counts again, logged from itself to itself.
         browser.checkDefaultBrowser();
-        browser.checkDefaultBrowser();
-        QCOMPARE(console.lines(), QStringList({"📝 Log: Browser changed from Firefox to Chromium",
-                                               "📝 Log: Browser changed from Chromium to Chromium"}));
+        QCOMPARE(console.lines(), QStringList({"📝 Log: Browser changed from Chromium to Chromium"}));
         QCOMPARE(browser.browserChangeCount(), 2);
-        QCOMPARE(world.alerts.pendingCount(), 2);
+        QCOMPARE(world.alerts.pendingCount(), 1);
     }
 
-    void withoutAPreviousValueTheAlertComesAndNothingIsCounted()
+    void checksThatCountNothing()
     {
-        GuardWorld world;
-        world.handlers.setHandlers("https", {});
-        world.handlers.setHandlers("http", {});
-        BrowserManager browser(world.environment());
-        browser.setTargetDefaultBrowser(firefox());
-        QVERIFY(!browser.currentDefaultBrowser());
-        world.browsersDefault("epiphany");
-        ConsoleCapture console;
-        world.tick();
-        QVERIFY(console.lines().isEmpty());
-        QCOMPARE(browser.browserChangeCount(), 0);
-        QVERIFY(!browser.lastBrowserChange());
-        QVERIFY(world.log.getAllLogs().isEmpty());
-        GuardWorld::settle();
-        QCOMPARE(world.alerts.shown().size(), 1);
-        QCOMPARE(world.alerts.shown().first().secondButton, QString("Keep Web for now"));
-    }
-
-    void withoutATargetNothingIsCountedHoweverTheDefaultChanges()
-    {
-        GuardWorld world;
-        BrowserManager browser(world.environment());
-        ConsoleCapture console;
-        for (const char *id : {"chromium", "epiphany", "firefox-esr"}) {
-            world.browsersDefault(id);
-            world.tick();
-            Q_EMIT world.events.didWake();
-            QCOMPARE(browser.currentDefaultBrowser()->bundleIdentifier, QString(id));
+        {   // No target: nothing counted however the default changes.
+            GuardWorld world;
+            BrowserManager browser(world.environment());
+            ConsoleCapture console;
+            for (const char *id : {"chromium", "epiphany", "firefox-esr"}) {
+                world.browsersDefault(id);
+                world.tick();
+                Q_EMIT world.events.didWake();
+                QCOMPARE(browser.currentDefaultBrowser()->bundleIdentifier, QString(id));
+            }
+            QCOMPARE(console.lines(), QStringList(3, "🔍 Checking after wake"));
+            QCOMPARE(browser.browserChangeCount(), 0);
+            GuardWorld::settle();
+            QVERIFY(world.alerts.shown().isEmpty());
         }
-        browser.checkDefaultBrowser();
-        QCOMPARE(console.lines(), QStringList(3, "🔍 Checking after wake"));
-        QCOMPARE(browser.browserChangeCount(), 0);
-        GuardWorld::settle();
-        QVERIFY(world.alerts.shown().isEmpty());
-    }
-
-    void withMonitoringOffACheckOnlyResolves()
-    {
-        GuardWorld world;
-        BrowserManager browser(world.environment());
-        browser.setTargetDefaultBrowser(firefox());
-        browser.setMonitoringEnabled(false);
-        QVERIFY(world.timers.activeWithInterval(GuardWorld::tenMinutes).isEmpty());
-        world.browsersDefault("chromium");
-        ConsoleCapture console;
-        Q_EMIT world.events.didWake();
-        QCOMPARE(console.lines(), QStringList({"🔍 Checking after wake"}));
-        QCOMPARE(browser.currentDefaultBrowser()->name, QString("Chromium"));
-        QCOMPARE(browser.browserChangeCount(), 0);
-        GuardWorld::settle();
-        QVERIFY(world.alerts.shown().isEmpty());
+        {   // Monitoring off: a check only resolves.
+            GuardWorld world;
+            BrowserManager browser(world.environment());
+            browser.setTargetDefaultBrowser(firefox());
+            browser.setMonitoringEnabled(false);
+            QVERIFY(world.timers.active().isEmpty());
+            world.browsersDefault("chromium");
+            Q_EMIT world.events.didWake();
+            QCOMPARE(browser.currentDefaultBrowser()->name, QString("Chromium"));
+            QCOMPARE(browser.browserChangeCount(), 0);
+            GuardWorld::settle();
+            QVERIFY(world.alerts.shown().isEmpty());
+        }
+        {   // No previous default: the alert comes, but nothing is logged or counted.
+            GuardWorld world;
+            world.handlers.setHandlers("https", {});
+            world.handlers.setHandlers("http", {});
+            BrowserManager browser(world.environment());
+            browser.setTargetDefaultBrowser(firefox());
+            world.browsersDefault("epiphany");
+            ConsoleCapture console;
+            world.tick();
+            QVERIFY(console.lines().isEmpty());
+            QCOMPARE(browser.browserChangeCount(), 0);
+            QVERIFY(!browser.lastBrowserChange());
+            QVERIFY(world.log.getAllLogs().isEmpty());
+            GuardWorld::settle();
+            QCOMPARE(world.alerts.shown().size(), 1);
+            QCOMPARE(world.alerts.shown().first().secondButton, QString("Keep Web for now"));
+        }
     }
 
     void theIntervalDecidesTheTimerAndStartingChecksAtOnce()
@@ -134,8 +116,6 @@ private Q_SLOTS:
 
         // none: the timer stops, and no check is made.
         browser.setCheckInterval(CheckInterval::none);
-        QCOMPARE(browser.browserChangeCount(), 2);
-        QVERIFY(world.timers.active().isEmpty());
         browser.setMonitoringEnabled(true);
         QCOMPARE(browser.browserChangeCount(), 2);
         QVERIFY(world.timers.active().isEmpty());
@@ -144,7 +124,6 @@ private Q_SLOTS:
         browser.setMonitoringEnabled(false);
         browser.setCheckInterval(CheckInterval::oneMinute);
         QVERIFY(world.timers.active().isEmpty());
-        QCOMPARE(browser.browserChangeCount(), 2);
         browser.setMonitoringEnabled(true);
         QCOMPARE(world.timers.activeWithInterval(60s).size(), 1);
         QCOMPARE(browser.browserChangeCount(), 3);

@@ -8,7 +8,7 @@ class ProtectionTest : public QObject {
     Q_OBJECT
 
 private Q_SLOTS:
-    void statusOfOneGuard()
+    void statusOfAGuardAndOfBoth()
     {
         const HandlerRecord a("A", "a");
         const HandlerRecord a2("A renamed", "a", QString("/elsewhere"));
@@ -20,14 +20,9 @@ private Q_SLOTS:
         QCOMPARE(Protection::statusOf(std::nullopt, b, true), P::protected_);
         QCOMPARE(Protection::statusOf(a, std::nullopt, true), P::protected_);
         QCOMPARE(Protection::statusOf(std::nullopt, std::nullopt, false), P::notProtected);
-    }
-
-    void notProtectedOutranksMismatch()
-    {
-        using P = ProtectionStatus;
+        // Across both guards, notProtected outranks mismatch.
         QCOMPARE(Protection::overall(P::mismatch, P::notProtected), P::notProtected);
         QCOMPARE(Protection::overall(P::protected_, P::mismatch), P::mismatch);
-        QCOMPARE(Protection::overall(P::protected_, P::protected_), P::protected_);
         QCOMPARE(Protection::name(P::notProtected), QString("notProtected"));
     }
 };

@@ -8,29 +8,22 @@ class ResolutionTest : public QObject {
     Q_OBJECT
 
 private Q_SLOTS:
-    void httpsWinsAndHttpIsOnlyTheFallback()
+    void httpsWinsHttpIsTheFallbackAndMailAsksOnlyForMailto()
     {
         FakeHandlerDatabase db;
         db.install("chromium", QString("Chromium"));
         db.install("firefox", QString("Firefox"));
-        const DefaultResolver resolver(GuardProfile::browser(), db);
-        QVERIFY(!resolver.currentDefaultIdentifier());
+        const DefaultResolver browser(GuardProfile::browser(), db);
+        const DefaultResolver mail(GuardProfile::email(), db);
+        QVERIFY(!browser.currentDefaultIdentifier());
 
         db.setHandlers("http", {"chromium"});
-        QCOMPARE(resolver.currentDefaultIdentifier(), QString("chromium"));
+        QCOMPARE(browser.currentDefaultIdentifier(), QString("chromium"));
         db.setHandlers("https", {"firefox", "chromium"});
-        QCOMPARE(resolver.currentDefaultIdentifier(), QString("firefox"));
-    }
-
-    void mailAsksOnlyForMailto()
-    {
-        FakeHandlerDatabase db;
-        db.install("thunderbird", QString("Thunderbird"));
-        db.setHandlers("https", {"thunderbird"});
-        const DefaultResolver resolver(GuardProfile::email(), db);
-        QVERIFY(!resolver.currentDefaultIdentifier());
-        db.setHandlers("mailto", {"thunderbird"});
-        QCOMPARE(resolver.currentDefaultIdentifier(), QString("thunderbird"));
+        QCOMPARE(browser.currentDefaultIdentifier(), QString("firefox"));
+        QVERIFY(!mail.currentDefaultIdentifier());
+        db.setHandlers("mailto", {"chromium"});
+        QCOMPARE(mail.currentDefaultIdentifier(), QString("chromium"));
     }
 
     void aDefaultMissingFromTheListIsAppendedOnceInNameOrder()
@@ -54,33 +47,25 @@ private Q_SLOTS:
         QCOMPARE(installed.at(1).name, QString("Zeta"));
         QCOMPARE(installed.at(2).name, QString("alpha"));
 
-        const auto second = resolver.resolve(installed);
+        QCOMPARE(resolver.resolve(installed)->id, first->id);
         QCOMPARE(installed.size(), 3);
-        QCOMPARE(second->id, first->id);
     }
 
-    void anUnreadableDefaultIsTheUnknownRecord()
+    void anUnreadableOrNamelessDefaultStillGetsAName()
     {
         FakeHandlerDatabase db;
         db.setHandlers("mailto", {"gone-mail"});
-        const DefaultResolver resolver(GuardProfile::email(), db);
         QList<HandlerRecord> installed;
-        const auto current = resolver.resolve(installed);
+        const auto current = DefaultResolver(GuardProfile::email(), db).resolve(installed);
         QVERIFY(current);
         QCOMPARE(current->name, QString("Unknown Email Client"));
         QCOMPARE(current->bundleIdentifier, QString("gone-mail"));
         QVERIFY(!current->path && !current->version);
         QVERIFY(installed.isEmpty());
-    }
 
-    void aNamelessApplicationTakesTheNameOfItsFile()
-    {
-        FakeHandlerDatabase db;
         db.install("org.example.Web", std::nullopt);
         db.setHandlers("https", {"org.example.Web"});
-        QList<HandlerRecord> installed;
-        const auto current = DefaultResolver(GuardProfile::browser(), db).resolve(installed);
-        QCOMPARE(current->name, QString("org.example.Web"));
+        QCOMPARE(DefaultResolver(GuardProfile::browser(), db).resolve(installed)->name, QString("org.example.Web"));
     }
 
     void sortingIsByCodePointsNotUtf16Units()
