@@ -24,27 +24,17 @@ private slots:
         QCOMPARE(entry.exec(), QString());
     }
 
-    void refusesWhatGLibRefuses_data()
-    {
-        QTest::addColumn<QByteArray>("content");
-        QTest::newRow("action group first") << QByteArray("[Desktop Action a]\nName=x\n[Desktop Entry]\nName=y\n");
-        QTest::newRow("key before any group") << QByteArray("Name=x\n[Desktop Entry]\nName=y\n");
-        QTest::newRow("line without =") << QByteArray("[Desktop Entry]\nName=y\nwhat\n");
-        QTest::newRow("broken header") << QByteArray("[Desktop Entry\nName=y\n");
-        QTest::newRow("empty") << QByteArray();
-    }
-
     void refusesWhatGLibRefuses()
     {
-        QFETCH(QByteArray, content);
-        QVERIFY(!DesktopEntry::parse(content).isValid());
+        for (const char *content : {"[Desktop Action a]\nName=x\n[Desktop Entry]\nName=y\n", "Name=x\n[Desktop Entry]\nName=y\n",
+                                    "[Desktop Entry]\nName=y\nwhat\n", "[Desktop Entry\nName=y\n", ""})
+            QVERIFY2(!DesktopEntry::parse(content).isValid(), content);
     }
 
     void execProgram_data()
     {
         QTest::addColumn<QString>("exec");
         QTest::addColumn<QString>("program");
-        QTest::newRow("plain") << "/usr/bin/firefox-esr %u" << "/usr/bin/firefox-esr";
         QTest::newRow("leading blanks") << "  prog --flag" << "prog";
         QTest::newRow("double quotes") << "\"/opt/My App/run\" %U" << "/opt/My App/run";
         // The line is unescaped as a key-file value first (\\ is one backslash), then split.
@@ -52,7 +42,6 @@ private slots:
         QTest::newRow("single quotes") << "'/opt/it'\"'\"'s' -x" << "/opt/it's";
         QTest::newRow("backslash") << "/opt/My\\\\ App %f" << "/opt/My App";
         QTest::newRow("key-file blank escape") << "/opt/My\\sApp %f" << "/opt/My";
-        QTest::newRow("env prefix is the program") << "env A=b prog" << "env";
         QTest::newRow("unterminated") << "\"/opt/x" << QString();
         QTest::newRow("blank") << "   " << QString();
     }

@@ -51,7 +51,6 @@ private slots:
                                                         << QByteArray("[Default Applications]\na=b\nk=v\n# note\n\n[Other]\nc=d\n");
         QTest::newRow("group at end without newline") << QByteArray("# x\r\n[Default Applications]\r\na=b")
                                                        << QByteArray("# x\r\n[Default Applications]\r\na=b\r\nk=v\r\n");
-        QTest::newRow("header only") << QByteArray("[Default Applications]\n") << QByteArray("[Default Applications]\nk=v\n");
         QTest::newRow("repeated key: last rewritten, repeat dropped")
             << QByteArray("[Default Applications]\nk=a\nx=y\nk=b\n") << QByteArray("[Default Applications]\nx=y\nk=v\n");
         QTest::newRow("same key in another group untouched")
