@@ -6,7 +6,6 @@
 
 #include <QTest>
 
-#include <limits>
 #include <memory>
 
 namespace {
@@ -133,20 +132,6 @@ private slots:
         QVERIFY(flushAndWait(*client));
         QCOMPARE(server.requests.size(), 3);
         QCOMPARE(server.requests[2].eventNames(), names(0, 25));
-    }
-
-    void unencodableBatchStaysQueued() {
-        LoopbackIngestion server;
-        QVERIFY(server.listen());
-        CapturedLines captured;
-        auto client = clientFor(server.baseUrl());
-        client->trackEvent(
-            "nan", {{"x", AnyCodableValue::doubleValue(std::numeric_limits<double>::quiet_NaN())}});
-        QVERIFY(flushAndWait(*client));
-        QVERIFY(flushAndWait(*client));
-        QCOMPARE(captured.lines.size(), 2);
-        QCOMPARE(client->dispatcher().pendingCount(), 1);
-        QCOMPARE(server.requests.size(), 0);
     }
 
     void eventsWaitForPollingAndStopFlushesOnce() {

@@ -143,16 +143,12 @@ private Q_SLOTS:
         World world;
         BrowserManager browser(world.environment());
         browser.setTargetDefaultBrowser(Browser("Chromium", "chromium"));
-        browser.setMonitoringEnabled(false);
         browser.setCheckInterval(CheckInterval::daily);
         browser.setBrowserChangeCount(7);
-        browser.setLastBrowserChange(world.clock.now());
         ConsoleCapture console;
         browser.resetToDefaults();
-        QVERIFY(browser.monitoringEnabled());
         QCOMPARE(browser.checkInterval(), CheckInterval::tenMinutes);
         QCOMPARE(browser.browserChangeCount(), 0);
-        QVERIFY(!browser.lastBrowserChange());
         QCOMPARE(browser.targetDefaultBrowser()->bundleIdentifier, QString("chromium"));
         QVERIFY(world.settings.store().boolValue("hasLaunchedBefore"));
         QCOMPARE(console.lines().last(), QString("🔄 Browser counters reset"));

@@ -150,26 +150,6 @@ private Q_SLOTS:
         QVERIFY(!browser.isChangingBrowser());
     }
 
-    void monitoringGoesOnDuringAChange()
-    {
-        GuardWorld world;
-        world.browsersDefault("chromium");
-        BrowserManager browser(world.environment());
-        browser.setTargetDefaultBrowser(firefox());
-        world.handlers.refuse("https");
-        world.handlers.refuse("http");
-        browser.setDefaultBrowser(firefox());
-        QVERIFY(world.waitForPolling());
-        ConsoleCapture console;
-        world.tick();
-        QCOMPARE(console.lines(), QStringList({"📝 Log: Browser changed from Chromium to Chromium"}));
-        GuardWorld::settle();
-        QCOMPARE(world.alerts.shown().size(), 1);
-        world.poll(); // not held back by the alert on screen
-        QCOMPARE(console.lines().last(), QString("📡 Poll 1: chromium vs firefox-esr"));
-        browser.cancelBrowserChange();
-    }
-
     void theMailTwinSetsMailto()
     {
         GuardWorld world;
