@@ -12,12 +12,10 @@ using namespace std::chrono_literals;
 
 namespace {
 
-QString tableText(const QString &code, const char *key)
-{
+QString tableText(const QString &code, const char *key) {
     QTranslator table;
-    if (!table.load(u":/i18n/vandorel_" + code + u".qm"))
-        return {};
-    return table.translate("Localizable", key);
+    return table.load(u":/i18n/vandorel_" + code + u".qm") ? table.translate("Localizable", key)
+                                                           : QString();
 }
 
 } // namespace
@@ -25,43 +23,30 @@ QString tableText(const QString &code, const char *key)
 class LocalizedTextTest : public QObject {
     Q_OBJECT
 private Q_SLOTS:
-    void followsTheLanguageOnceTheTableIsSwapped();
-    void changingTheKeyShowsItsText();
+    void followsTheLanguageOnceTheTableIsSwappedAndTheKey() {
+        ConsoleCapture console;
+        TempSettings settings;
+        FakeTimerFactory timers;
+        LanguageManager manager(settings.store(), timers, {});
+        LocalizedText label(QStringLiteral("status_not_protected"), manager);
+
+        const QString english = tableText("en", "status_not_protected");
+        const QString german = tableText("de", "status_not_protected");
+        QVERIFY(!german.isEmpty() && german != english);
+        QCOMPARE(label.text(), english);
+        QCOMPARE(label.textFormat(), Qt::PlainText);
+
+        manager.setCurrentLanguage(AppLanguage::german);
+        QCOMPARE(label.text(), english);
+        timers.fire(50ms);
+        QCOMPARE(label.text(), german);
+
+        label.setKey(QStringLiteral("no_such_key"));
+        QCOMPARE(label.text(), QStringLiteral("no_such_key"));
+        label.setKey(QStringLiteral("tab_log"));
+        QCOMPARE(label.text(), tableText("de", "tab_log"));
+    }
 };
-
-void LocalizedTextTest::followsTheLanguageOnceTheTableIsSwapped()
-{
-    ConsoleCapture console;
-    TempSettings settings;
-    FakeTimerFactory timers;
-    LanguageManager manager(settings.store(), timers, {});
-    LocalizedText label(QStringLiteral("status_not_protected"), manager);
-
-    const QString english = tableText("en", "status_not_protected");
-    const QString german = tableText("de", "status_not_protected");
-    QVERIFY(!german.isEmpty() && german != english);
-    QCOMPARE(label.text(), english);
-    QCOMPARE(label.textFormat(), Qt::PlainText);
-
-    manager.setCurrentLanguage(AppLanguage::german);
-    QCOMPARE(label.text(), english);
-    timers.fire(50ms);
-    QCOMPARE(label.text(), german);
-}
-
-void LocalizedTextTest::changingTheKeyShowsItsText()
-{
-    ConsoleCapture console;
-    TempSettings settings;
-    FakeTimerFactory timers;
-    LanguageManager manager(settings.store(), timers, {});
-    LocalizedText label(QStringLiteral("no_such_key"), manager);
-    QCOMPARE(label.text(), QStringLiteral("no_such_key"));
-
-    label.setKey(QStringLiteral("tab_log"));
-    QCOMPARE(label.key(), QStringLiteral("tab_log"));
-    QCOMPARE(label.text(), tableText("en", "tab_log"));
-}
 
 QTEST_MAIN(LocalizedTextTest)
 #include "tst_localized_text.moc"

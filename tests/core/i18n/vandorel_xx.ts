@@ -8,10 +8,6 @@
         <translation>xx-general</translation>
     </message>
     <message>
-        <source>status_should_be %@</source>
-        <translation>xx %@ expected</translation>
-    </message>
-    <message>
         <source>alert_browser_changed_message %@ %@</source>
         <translation>%2$@ before %1$@</translation>
     </message>
