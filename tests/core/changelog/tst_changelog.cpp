@@ -23,9 +23,9 @@ QString newId()
     return QUuid::createUuid().toString(QUuid::WithoutBraces).toUpper();
 }
 
-QJsonObject record(double timestamp, const QString &message = "m")
+QJsonObject record(double timestamp, const QString &message = "m", const QString &id = newId())
 {
-    return {{"id", newId()}, {"type", "browser"}, {"message", message}, {"timestamp", timestamp}};
+    return {{"id", id}, {"type", "browser"}, {"message", message}, {"timestamp", timestamp}};
 }
 
 QByteArray blobOf(const QJsonArray &records)
@@ -71,15 +71,18 @@ class ChangeLogTest : public QObject {
     Q_OBJECT
 
 private Q_SLOTS:
-    void storedBytesAreCompactJsonWithReferenceDateTimes()
+    void storedBytesAreCompactJsonAndSurviveARestart()
     {
         Rig rig;
         QVERIFY(rig.log.getAllLogs().isEmpty());
         QVERIFY(!rig.temp.store().contains("VandorelLogs")); // reading creates nothing
 
-        rig.log.logBrowserChange("Safari", "Firefox");
+        const QString awkward = "\"Ünïcødé\" / back\\slash\t{x} 浏览器 🦊\nline";
+        const QString browserChange = "Browser changed from " + awkward + " to Firefox";
+        const QString emailChange = "Email client changed from Mail to " + awkward;
+        rig.log.logBrowserChange(awkward, "Firefox");
         rig.clock.advance(0.25);
-        rig.log.logEmailChange("Mail", "Thunderbird");
+        rig.log.logEmailChange("Mail", awkward);
 
         const QByteArray bytes = rig.temp.store().dataValue("VandorelLogs").value();
         QVERIFY(!bytes.contains('\n') && !bytes.contains(": "));
@@ -93,15 +96,23 @@ private Q_SLOTS:
         QVERIFY(upperUuid.match(older["id"].toString()).hasMatch());
         QVERIFY(older["id"] != newest["id"]);
         QCOMPARE(newest, QJsonObject({{"id", newest["id"]}, {"type", "email"},
-                                      {"message", "Email client changed from Mail to Thunderbird"},
+                                      {"message", emailChange},
                                       {"timestamp", piDaySeconds + 0.25}}));
         QCOMPARE(older, QJsonObject({{"id", older["id"]}, {"type", "browser"},
-                                     {"message", "Browser changed from Safari to Firefox"},
+                                     {"message", browserChange},
                                      {"timestamp", piDaySeconds}}));
 
-        const QList<ChangeLogEntry> entries = rig.log.getAllLogs();
-        QCOMPARE(entries[0].timestamp, piDay.addMSecs(250));
-        QCOMPARE(entries[1].id, QUuid::fromString(older["id"].toString()));
+        const QList<ChangeLogEntry> written = rig.log.getAllLogs();
+        QCOMPARE(written[0].type, ChangeLogType::email);
+        QCOMPARE(written[0].timestamp, piDay.addMSecs(250));
+        QCOMPARE(written[1].id, QUuid::fromString(older["id"].toString()));
+        const QList<ChangeLogEntry> read = LogManager(rig.temp.reopen(), rig.clock).getAllLogs();
+        QCOMPARE(messages(read), messages(written));
+        for (qsizetype i = 0; i < read.size(); ++i) {
+            QCOMPARE(read[i].id, written[i].id);
+            QCOMPARE(read[i].type, written[i].type);
+            QCOMPARE(read[i].timestamp, written[i].timestamp);
+        }
     }
 
     void consoleLinesAndTheSharedLog()
@@ -137,7 +148,6 @@ private Q_SLOTS:
         QCOMPARE(messages(entries.first(2)),
                  QStringList({"Browser changed from B to C", "Browser changed from A to B"}));
         QCOMPARE(entries.last().message, "#2");
-        QCOMPARE(storedArray(rig.temp.store()).size(), 1000);
 
         // A longer log written by other means is read in full and trimmed at the next add.
         rig.seed(blobOf(history(1200)));
@@ -153,7 +163,8 @@ private Q_SLOTS:
     {
         Rig rig;
         rig.seed(blobOf({record(10, "ten"), record(30, "thirty a"), record(20, "twenty"),
-                         record(30, "thirty b"), record(30, "thirty c"), record(-5, "before 2001")}));
+                         record(30, "thirty b"), record(30, "thirty c"),
+                         record(-5, "before 2001")}));
         QCOMPARE(messages(rig.log.getAllLogs()),
                  QStringList({"thirty a", "thirty b", "thirty c", "twenty", "ten", "before 2001"}));
     }
@@ -194,7 +205,6 @@ private Q_SLOTS:
         QTest::newRow("type upper case") << withBad("type", "BROWSER");
         QTest::newRow("no timestamp") << withBad("timestamp", QJsonValue::Undefined);
         QTest::newRow("id in braces") << withBad("id", QString("{" + newId() + "}"));
-        QTest::newRow("id without dashes") << withBad("id", newId().remove('-'));
         QTest::newRow("id not hex") << withBad("id", newId().replace(0, 1, "G"));
         QTest::newRow("timestamp as text") << withBad("timestamp", "2026-03-14T10:00:00Z");
         QTest::newRow("message a number") << withBad("message", 42);
@@ -223,62 +233,27 @@ private Q_SLOTS:
         QCOMPARE(storedArray(rig.temp.store()).size(), 1);
     }
 
-    void lenientFormIsReadAndRewrittenCanonically()
+    void readRecordsAreRewrittenCanonicallyAndExactly()
     {
-        // Members out of order, an extra member, white space, a lower-case id, an exponent.
+        // A lower-case id, and a timestamp finer than a millisecond.
+        const double fine = 795175200.123456789;
         Rig rig(piDay.addSecs(60));
-        rig.seed("[\n {\"timestamp\": 7.951752e8, \"extra\": [1], \"message\": \"m\",\n"
-                 "  \"type\": \"email\", \"id\": \"" + fixedId.toLower().toLatin1() + "\"}\n]\n");
-        const QList<ChangeLogEntry> entries = rig.log.getAllLogs();
-        QCOMPARE(entries.size(), 1);
-        QCOMPARE(entries[0].id, QUuid::fromString(fixedId));
-        QCOMPARE(entries[0].type, ChangeLogType::email);
-        QCOMPARE(entries[0].timestamp, piDay);
-
-        rig.log.logBrowserChange("A", "B");
-        const QJsonObject old = storedArray(rig.temp.store())[1].toObject();
-        QCOMPARE(old.keys(), QStringList({"id", "message", "timestamp", "type"}));
-        QCOMPARE(old["id"].toString(), fixedId);
-        QCOMPARE(old["timestamp"].toDouble(), piDaySeconds);
-    }
-
-    void fractionalTimestampsAreKeptExactly()
-    {
-        const double fine = 795175200.123456789; // finer than a millisecond
-        Rig rig(piDay.addSecs(1));
-        rig.seed(blobOf({record(fine, "fine")}));
-
+        rig.seed(blobOf({record(fine, "fine"), record(piDaySeconds, "m", fixedId.toLower())}));
         const QList<ChangeLogEntry> read = rig.log.getAllLogs();
+        QCOMPARE(messages(read), QStringList({"fine", "m"}));
         QCOMPARE(read[0].secondsSinceReferenceDate(), fine);
         QCOMPARE(read[0].timestamp, piDay.addMSecs(123));
+        QCOMPARE(read[1].id, QUuid::fromString(fixedId));
 
         rig.log.logBrowserChange("A", "B");
-        QCOMPARE(storedArray(rig.temp.store())[1].toObject()["timestamp"].toDouble(), fine);
+        const QJsonArray stored = storedArray(rig.temp.store());
+        QCOMPARE(stored[1].toObject()["timestamp"].toDouble(), fine);
+        QCOMPARE(stored[2].toObject()["id"].toString(), fixedId);
 
         // A timestamp set anew wins over the value it was read with.
         ChangeLogEntry moved = read[0];
         moved.timestamp = piDay.addSecs(-1);
         QCOMPARE(moved.secondsSinceReferenceDate(), piDaySeconds - 1);
-    }
-
-    void theLogSurvivesARestartWithItsTextIntact()
-    {
-        const QString awkward = "\"Ünïcødé\" / back\\slash\t{x} 浏览器 🦊\nline";
-        Rig rig;
-        rig.log.logBrowserChange(awkward, "Firefox");
-        rig.clock.advance(1.5);
-        rig.log.logEmailChange("Mail", awkward);
-        const QList<ChangeLogEntry> written = rig.log.getAllLogs();
-
-        const QList<ChangeLogEntry> read = LogManager(rig.temp.reopen(), rig.clock).getAllLogs();
-        QCOMPARE(read.size(), 2);
-        for (qsizetype i = 0; i < read.size(); ++i) {
-            QCOMPARE(read[i].id, written[i].id);
-            QCOMPARE(read[i].type, written[i].type);
-            QCOMPARE(read[i].timestamp, written[i].timestamp);
-        }
-        QCOMPARE(read[0].message, "Email client changed from Mail to " + awkward);
-        QCOMPARE(read[1].message, "Browser changed from " + awkward + " to Firefox");
     }
 
     void descriptionShowsTheMediumDateAndTimeOfTheLocale()

@@ -12,8 +12,6 @@ class FeedServer {
 public:
     struct Page {
         int status = 200;
-        QByteArray reason = "OK";
-        QByteArray contentType = "application/rss+xml";
         QByteArray body;
     };
 
@@ -64,11 +62,10 @@ private:
     }
 
     void answer(QTcpSocket *socket) {
-        QByteArray response = "HTTP/1.1 " + QByteArray::number(m_page.status) + ' ' +
-                              m_page.reason + "\r\nContent-Type: " + m_page.contentType +
-                              "\r\nContent-Length: " + QByteArray::number(m_page.body.size()) +
-                              "\r\nConnection: close\r\n\r\n" + m_page.body;
-        socket->write(response);
+        socket->write("HTTP/1.1 " + QByteArray::number(m_page.status)
+                      + " Status\r\nContent-Type: text/xml\r\nContent-Length: "
+                      + QByteArray::number(m_page.body.size())
+                      + "\r\nConnection: close\r\n\r\n" + m_page.body);
         socket->disconnectFromHost();
     }
 
