@@ -28,7 +28,8 @@ public:
     static QStringList take() { return std::exchange(s_lines, {}); }
 
 private:
-    static void handle(QtMsgType type, const QMessageLogContext &context, const QString &text) {
+    static void handle(QtMsgType type, const QMessageLogContext &context, const QString &text)
+    {
         if (qstrcmp(context.category, "Feedback") != 0)
             return s_previous(type, context, text);
         s_lines << (type == QtInfoMsg ? u"info: " : u"error: ") + text;
@@ -51,7 +52,8 @@ struct Rig {
     std::unique_ptr<FeedbackForm> form;
 
     explicit Rig(const QString &apiKey = QStringLiteral("key-123"),
-                 std::chrono::milliseconds timeout = 20s) {
+                 std::chrono::milliseconds timeout = 20s)
+    {
         language.setCurrentLanguage(AppLanguage::german);
         timers.fire(50ms);
         static_cast<void>(server.listen());
@@ -66,7 +68,8 @@ struct Rig {
     }
 
     // Fills the form in, sends it and waits for the answer to be judged.
-    bool send(int mood, FeedbackTag tag, const QString &text) {
+    bool send(int mood, FeedbackTag tag, const QString &text)
+    {
         form->setSelectedMoodIndex(mood);
         form->setSelectedTag(tag);
         form->setFeedbackText(text);
@@ -74,11 +77,13 @@ struct Rig {
         form->sendFeedback();
         return finished.wait(5000);
     }
-    QString sendingLine() const {
+    QString sendingLine() const
+    {
         return u"info: Sending feedback to " + server.baseUrl() + u"/api/feedback";
     }
     // The form's text, tag and mood, and which of its alerts and sending are on.
-    QString state() const {
+    QString state() const
+    {
         QStringList on;
         for (const auto &[flag, name] : {std::pair(form->showSuccessAlert(), "success"),
                                          {form->showErrorAlert(), "error"},
@@ -97,7 +102,8 @@ struct Rig {
 class FeedbackFormTest : public QObject {
     Q_OBJECT
 private Q_SLOTS:
-    void everyStatusIsJudged_data() {
+    void everyStatusIsJudged_data()
+    {
         QTest::addColumn<int>("status");
         QTest::addColumn<QByteArray>("body");
         QTest::addColumn<QString>("loggedBody"); // empty: the send succeeds
@@ -108,7 +114,8 @@ private Q_SLOTS:
         QTest::newRow("404") << 404 << QByteArray("no such route") << "no such route";
         QTest::newRow("500 not UTF-8") << 500 << QByteArray("\xff\xfe oops") << "<empty>";
     }
-    void everyStatusIsJudged() {
+    void everyStatusIsJudged()
+    {
         QFETCH(int, status);
         QFETCH(QByteArray, body);
         QFETCH(QString, loggedBody);
@@ -124,17 +131,15 @@ private Q_SLOTS:
         QCOMPARE(request.path, "/api/feedback");
         QCOMPARE(request.headers.value("content-type"), "application/json");
         QCOMPARE(request.headers.value("x-api-key"), "key-123");
-        const QJsonObject expected{
-            {"mood", QStringLiteral("\U0001F615")},
-            {"rating", 2},
-            {"tag", "idea"},
-            {"message", "Dark mode, please"},
-            {"language", "de"},
-            {"appVersion", QString::fromUtf8(BuildConfig::appVersion)},
-            {"appBuild", QString::fromUtf8(BuildConfig::buildNumber)},
-            {"osVersion", FeedbackPayload::systemVersionText()},
-            {"createdAt", "2024-02-29T22:59:59Z"},
-        };
+        const QJsonObject expected{{"mood", QStringLiteral("\U0001F615")},
+                                   {"rating", 2},
+                                   {"tag", "idea"},
+                                   {"message", "Dark mode, please"},
+                                   {"language", "de"},
+                                   {"appVersion", QString::fromUtf8(BuildConfig::appVersion)},
+                                   {"appBuild", QString::fromUtf8(BuildConfig::buildNumber)},
+                                   {"osVersion", FeedbackPayload::systemVersionText()},
+                                   {"createdAt", "2024-02-29T22:59:59Z"}};
         QCOMPARE(QJsonDocument::fromJson(request.body).object(), expected);
         QVERIFY(rig.form->canSend());
 
@@ -165,7 +170,8 @@ private Q_SLOTS:
         }
     }
 
-    void aServerThatNeverAnswersFailsAfterTheTimeOut() {
+    void aServerThatNeverAnswersFailsAfterTheTimeOut()
+    {
         Rig rig(QStringLiteral("key-123"), 400ms);
         rig.server.hold();
         rig.form->setFeedbackText(QStringLiteral("Hello"));
@@ -190,7 +196,8 @@ private Q_SLOTS:
                  QStringList({rig.sendingLine(), u"error: Feedback send exception: " + reason}));
     }
 
-    void noApiKeyShowsTheErrorWithoutRequestOrTelemetry() {
+    void noApiKeyShowsTheErrorWithoutRequestOrTelemetry()
+    {
         Rig rig(QString{});
         rig.form->sendFeedback();
         QCOMPARE(rig.state(), "|coolApp|4|error");
@@ -204,7 +211,8 @@ private Q_SLOTS:
         QVERIFY(rig.telemetry.flushedEvents().isEmpty());
     }
 
-    void textKeepsAtMostAThousandUserPerceivedCharacters_data() {
+    void textKeepsAtMostAThousandUserPerceivedCharacters_data()
+    {
         QTest::addColumn<QString>("unit");
         QTest::newRow("emoji outside the BMP") << QStringLiteral("\U0001F929");
         QTest::newRow("family joined by ZWJ")
@@ -213,7 +221,8 @@ private Q_SLOTS:
         QTest::newRow("combining marks") << QStringLiteral("e\u0301\u0323");
         QTest::newRow("line end CRLF") << QStringLiteral("\r\n");
     }
-    void textKeepsAtMostAThousandUserPerceivedCharacters() {
+    void textKeepsAtMostAThousandUserPerceivedCharacters()
+    {
         QFETCH(QString, unit);
         QCOMPARE(UserPerceivedText::characterCount(unit), 1);
         Rig rig;

@@ -12,7 +12,8 @@ using namespace std::chrono_literals;
 
 namespace {
 
-QString tableText(const QString &code, const char *key) {
+QString tableText(const QString &code, const char *key)
+{
     QTranslator table;
     return table.load(u":/i18n/vandorel_" + code + u".qm") ? table.translate("Localizable", key)
                                                            : QString();
@@ -23,7 +24,8 @@ QString tableText(const QString &code, const char *key) {
 class LocalizedTextTest : public QObject {
     Q_OBJECT
 private Q_SLOTS:
-    void followsTheLanguageOnceTheTableIsSwappedAndTheKey() {
+    void followsTheLanguageOnceTheTableIsSwappedAndTheKey()
+    {
         ConsoleCapture console;
         TempSettings settings;
         FakeTimerFactory timers;

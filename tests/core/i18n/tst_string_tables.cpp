@@ -13,7 +13,8 @@
 namespace {
 
 // The texts of a language's table as built into the program, by key; empty if there is none.
-QHash<QString, QString> compiledTexts(const QString &code) {
+QHash<QString, QString> compiledTexts(const QString &code)
+{
     QTranslator table;
     QHash<QString, QString> texts;
     if (table.load(u":/i18n/vandorel_" + code + u".qm"))
@@ -22,14 +23,16 @@ QHash<QString, QString> compiledTexts(const QString &code) {
     return texts;
 }
 
-QStringList sorted(QStringList list) {
+QStringList sorted(QStringList list)
+{
     list.sort();
     return list;
 }
 
 // Formats the text with distinct numbers: a positional specifier numbered wrong, or mixed
 // with plain ones, shows some argument twice or not at all.
-bool showsEachArgumentOnce(const QString &text, qsizetype argumentCount) {
+bool showsEachArgumentOnce(const QString &text, qsizetype argumentCount)
+{
     QVariantList values;
     for (qsizetype i = 1; i <= argumentCount; ++i)
         values.append(qint64(970000 + i));
@@ -44,7 +47,8 @@ bool showsEachArgumentOnce(const QString &text, qsizetype argumentCount) {
 class StringTablesTest : public QObject {
     Q_OBJECT
 private Q_SLOTS:
-    void catalogueIsConsistent() {
+    void catalogueIsConsistent()
+    {
         QCOMPARE(StringCatalogue::entries().size(), 192);
         // A key that shows specifiers lists exactly those; only two keys hide theirs.
         for (const CatalogueEntry &entry : StringCatalogue::entries()) {
@@ -57,7 +61,8 @@ private Q_SLOTS:
                  (QStringList{"%@", "%lld", "%d"}));
     }
 
-    void tablesOfAllTenLanguagesExist() {
+    void tablesOfAllTenLanguagesExist()
+    {
         const QDir sources(QStringLiteral(I18N_TABLE_DIR));
         QStringList missing;
         for (const AppLanguage language : AppLanguage::allCases()) {
@@ -74,12 +79,14 @@ private Q_SLOTS:
             QVERIFY2(AppLanguage::fromRawValue(name.match(file).captured(1)), qPrintable(file));
     }
 
-    void tableCoversTheCatalogue_data() {
+    void tableCoversTheCatalogue_data()
+    {
         QTest::addColumn<QString>("code");
         for (const AppLanguage language : AppLanguage::allCases())
             QTest::newRow(qPrintable(language.code())) << language.code();
     }
-    void tableCoversTheCatalogue() {
+    void tableCoversTheCatalogue()
+    {
         QFETCH(QString, code);
         const QHash<QString, QString> texts = compiledTexts(code);
         QVERIFY2(!texts.isEmpty(), "no table built in");
@@ -106,7 +113,8 @@ private Q_SLOTS:
     // Labels of controls (short English texts that are not sentences) should not grow much in
     // translation, or they crowd the fixed-width pages. Up to 1.6 times the English is fine;
     // longer ones are reported; only a label far beyond that fails.
-    void controlLabelsStayShort() {
+    void controlLabelsStayShort()
+    {
         const QHash<QString, QString> english = compiledTexts(QStringLiteral("en"));
         static const QRegularExpression sentenceEnd(QStringLiteral("[.?!:]$"));
         QStringList failures;

@@ -9,7 +9,8 @@ private Q_SLOTS:
     void fills();
 };
 
-void TextFormatTest::fills_data() {
+void TextFormatTest::fills_data()
+{
     QTest::addColumn<QString>("pattern");
     QTest::addColumn<QVariantList>("values");
     QTest::addColumn<QString>("expected");
@@ -33,7 +34,8 @@ void TextFormatTest::fills_data() {
     QTest::newRow("value missing becomes empty") << "[%@][%@]" << QVariantList{"a"} << "[a][]";
 }
 
-void TextFormatTest::fills() {
+void TextFormatTest::fills()
+{
     QFETCH(QString, pattern);
     QFETCH(QVariantList, values);
     QFETCH(QString, expected);
