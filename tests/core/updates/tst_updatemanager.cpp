@@ -31,7 +31,9 @@ struct RecordingController final : UpdaterController {
 };
 
 struct RecordingPresenter final : UpdatePresenter {
-    void presentUpdateAvailable(const QString &version, bool) override { shown << u"sheet " + version; }
+    void presentUpdateAvailable(const QString &version, bool) override {
+        shown << u"sheet " + version;
+    }
     void presentNoUpdate() override { shown << QStringLiteral("up to date"); }
     QStringList shown;
 };
@@ -122,7 +124,8 @@ private Q_SLOTS:
         rig.manager->checkForUpdates(rig.recorder("check"));
         QVERIFY(rig.answers.isEmpty()); // never answers before returning
         QTRY_COMPARE(rig.answers, QStringList{answer});
-        QCOMPARE(rig.server.requestLines, QList<QByteArray>{"GET /app/Vandorel/appcast.xml HTTP/1.1"});
+        QCOMPARE(rig.server.requestLines,
+                 QList<QByteArray>{"GET /app/Vandorel/appcast.xml HTTP/1.1"});
         QCOMPARE(rig.console.lines(), lines);
     }
 
@@ -160,42 +163,37 @@ private Q_SLOTS:
         QVERIFY(rig.console.startingWith("❌").isEmpty());
     }
 
-    void detectsHomebrewInstall() {
-        QTemporaryDir root;
-        const QString opt = root.path() + u"/opt/homebrew";
-        const QString local = root.path() + u"/usr/local";
-        ConsoleCapture console;
+    void homebrewInstallIsDetectedAndHasNoUpdater() {
+        Rig rig;
+        const QString opt = rig.prefixes.path() + u"/opt/homebrew";
+        const QString local = rig.prefixes.path() + u"/usr/local";
         const auto detect = [&](const QString &installPath) {
-            console.take();
+            rig.console.take();
             return UpdateManager::detectBrewInstall(installPath, {opt, local});
         };
-        const QStringList none{"📦 No Homebrew install detected"};
 
         // Another cask and a dangling link of ours do not count.
         QVERIFY(QDir().mkpath(opt + u"/Caskroom/firefox"));
-        QVERIFY(QFile::link(root.path() + u"/gone", opt + u"/Caskroom/vandorel"));
+        QVERIFY(QFile::link(rig.prefixes.path() + u"/gone", opt + u"/Caskroom/vandorel"));
         QVERIFY(!detect(u"/usr/bin/vandorel"_qs));
-        QCOMPARE(console.lines(), none);
+        QCOMPARE(rig.console.lines(), QStringList{"📦 No Homebrew install detected"});
 
         QVERIFY(detect(u"/opt/homebrew/Caskroom/vandorel/1.0/vandorel"_qs));
-        QCOMPARE(console.lines(), QStringList{"🍺 Homebrew install detected via symlink resolution"});
+        QCOMPARE(rig.console.lines(),
+                 QStringList{"🍺 Homebrew install detected via symlink resolution"});
 
         // The prefixes are searched in order, each for both names.
         QVERIFY(QDir().mkpath(local + u"/Caskroom/vandorel"));
         QVERIFY(QDir().mkpath(opt + u"/Caskroom/van-dorel"));
         QVERIFY(detect(u"/usr/bin/vandorel"_qs));
-        QCOMPARE(console.lines(), QStringList{u"🍺 Homebrew install detected via Caskroom directory: "
-                                              + opt + u"/Caskroom/van-dorel"});
-    }
+        const QString found = u"🍺 Homebrew install detected via Caskroom directory: "_qs;
+        QCOMPARE(rig.console.take(), QStringList{found + opt + u"/Caskroom/van-dorel"});
 
-    void homebrewInstallHasNoUpdaterAndNoAutomaticCheck() {
-        Rig rig;
-        QVERIFY(QDir().mkpath(rig.prefixes.path() + u"/usr/local/Caskroom/vandorel"));
+        // Such a copy has no updater and never checks by itself.
         rig.server.serve({.body = feed("9.0")});
         QVERIFY(rig.manager->isBrewInstall()); // detected once, at the first read
         QCOMPARE(rig.manager->sparkleUpdaterController(), nullptr);
         QCOMPARE(rig.console.take().size(), 1);
-
         QVERIFY(!rig.manager->checkForUpdatesWithSparkle());
         rig.manager->checkAutomaticallyAndPresentIfAvailable();
         QTest::qWait(200);

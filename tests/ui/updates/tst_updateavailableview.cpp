@@ -141,7 +141,8 @@ private Q_SLOTS:
 
     void readsOnlyInlineMarkdown() {
         const auto rich = [](const QString &markdown) {
-            return InlineMarkdown::toRichText(markdown, QApplication::font()).value_or(u"refused"_qs);
+            const auto text = InlineMarkdown::toRichText(markdown, QApplication::font());
+            return text.value_or(u"refused"_qs);
         };
         QVERIFY(rich("Vandorel **2.0** is available.").contains(u"font-weight:700;\">2.0</span>"));
         QVERIFY(rich("<b>2.0</b>").contains(u"&lt;b&gt;2.0&lt;/b&gt;"));
