@@ -156,7 +156,7 @@ private Q_SLOTS:
                      (Events{{"feedback_sent",
                               {{"tag", "idea"}, {"mood", expected["mood"]}, {"rating", 2}}}}));
         } else {
-            QCOMPARE(rig.state(), text + u"|idea|1|error");
+            QCOMPARE(rig.state(), QString(text + u"|idea|1|error"));
             QCOMPARE(rig.form->errorMessage(),
                      rig.language.localizedString(QStringLiteral("feedback_error_message")));
             QCOMPARE(FeedbackLog::take(),
@@ -228,7 +228,7 @@ private Q_SLOTS:
         Rig rig;
         rig.form->setFeedbackText(unit.repeated(999) + u"xyz");
         QCOMPARE(rig.form->characterCount(), 1000);
-        QCOMPARE(rig.form->feedbackText(), unit.repeated(999) + u"x");
+        QCOMPARE(rig.form->feedbackText(), QString(unit.repeated(999) + u"x"));
         rig.form->setFeedbackText(unit.repeated(1000) + u"\u0301");
         QCOMPARE(rig.form->characterCount(), 1000);
     }
