@@ -1,5 +1,7 @@
 #include "core/feedback/FeedbackTag.h"
 
+#include "core/support/RowTable.h"
+
 #include <array>
 
 namespace {
@@ -27,19 +29,12 @@ const Row &rowOf(FeedbackTag::Value value)
 
 QList<FeedbackTag> FeedbackTag::allCases()
 {
-    QList<FeedbackTag> cases;
-    for (const Row &row : rows)
-        cases.append(row.value);
-    return cases;
+    return RowTable::allCases<FeedbackTag>(rows);
 }
 
 std::optional<FeedbackTag> FeedbackTag::fromRawValue(const QString &raw)
 {
-    for (const Row &row : rows) {
-        if (raw == QLatin1StringView(row.raw))
-            return FeedbackTag(row.value);
-    }
-    return std::nullopt;
+    return RowTable::fromRaw<FeedbackTag>(rows, &Row::raw, raw);
 }
 
 QString FeedbackTag::rawValue() const { return QLatin1StringView(rowOf(m_value).raw); }

@@ -1,6 +1,7 @@
 #include "core/guard/CheckInterval.h"
 
 #include "core/i18n/LanguageManager.h"
+#include "core/support/RowTable.h"
 
 #include <array>
 
@@ -31,19 +32,12 @@ const Row &rowOf(CheckInterval::Value value)
 
 QList<CheckInterval> CheckInterval::allCases()
 {
-    QList<CheckInterval> cases;
-    for (const Row &row : rows)
-        cases.append(row.value);
-    return cases;
+    return RowTable::allCases<CheckInterval>(rows);
 }
 
 std::optional<CheckInterval> CheckInterval::fromRawValue(const QString &raw)
 {
-    for (const Row &row : rows) {
-        if (raw == QLatin1StringView(row.raw))
-            return CheckInterval(row.value);
-    }
-    return std::nullopt;
+    return RowTable::fromRaw<CheckInterval>(rows, &Row::raw, raw);
 }
 
 QString CheckInterval::rawValue() const { return QLatin1StringView(rowOf(m_value).raw); }

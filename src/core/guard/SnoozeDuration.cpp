@@ -1,6 +1,7 @@
 #include "core/guard/SnoozeDuration.h"
 
 #include "core/i18n/LanguageManager.h"
+#include "core/support/RowTable.h"
 
 #include <QTimeZone>
 
@@ -34,19 +35,12 @@ const Row &rowOf(SnoozeDuration::Value value)
 
 QList<SnoozeDuration> SnoozeDuration::allCases()
 {
-    QList<SnoozeDuration> cases;
-    for (const Row &row : rows)
-        cases.append(row.value);
-    return cases;
+    return RowTable::allCases<SnoozeDuration>(rows);
 }
 
 std::optional<SnoozeDuration> SnoozeDuration::fromRawValue(const QString &raw)
 {
-    for (const Row &row : rows) {
-        if (raw == QLatin1StringView(row.raw))
-            return SnoozeDuration(row.value);
-    }
-    return std::nullopt;
+    return RowTable::fromRaw<SnoozeDuration>(rows, &Row::raw, raw);
 }
 
 QString SnoozeDuration::rawValue() const { return QLatin1StringView(rowOf(m_value).raw); }

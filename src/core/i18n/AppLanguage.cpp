@@ -1,4 +1,5 @@
 #include "core/i18n/AppLanguage.h"
+#include "core/support/RowTable.h"
 
 #include <array>
 
@@ -32,19 +33,12 @@ const Row &rowOf(AppLanguage::Value value)
 
 QList<AppLanguage> AppLanguage::allCases()
 {
-    QList<AppLanguage> cases;
-    for (const Row &row : rows)
-        cases.append(row.value);
-    return cases;
+    return RowTable::allCases<AppLanguage>(rows);
 }
 
 std::optional<AppLanguage> AppLanguage::fromRawValue(const QString &raw)
 {
-    for (const Row &row : rows) {
-        if (raw == QLatin1StringView(row.code))
-            return AppLanguage(row.value);
-    }
-    return std::nullopt;
+    return RowTable::fromRaw<AppLanguage>(rows, &Row::code, raw);
 }
 
 QString AppLanguage::rawValue() const { return QLatin1StringView(rowOf(m_value).code); }

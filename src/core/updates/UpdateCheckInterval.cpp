@@ -1,6 +1,7 @@
 #include "core/updates/UpdateCheckInterval.h"
 
 #include "core/i18n/LanguageManager.h"
+#include "core/support/RowTable.h"
 
 #include <array>
 
@@ -28,18 +29,11 @@ const Row &rowOf(UpdateCheckInterval::Value value) {
 } // namespace
 
 QList<UpdateCheckInterval> UpdateCheckInterval::allCases() {
-    QList<UpdateCheckInterval> cases;
-    for (const Row &row : rows)
-        cases.append(row.value);
-    return cases;
+    return RowTable::allCases<UpdateCheckInterval>(rows);
 }
 
 std::optional<UpdateCheckInterval> UpdateCheckInterval::fromRawValue(const QString &raw) {
-    for (const Row &row : rows) {
-        if (raw == QLatin1StringView(row.raw))
-            return UpdateCheckInterval(row.value);
-    }
-    return std::nullopt;
+    return RowTable::fromRaw<UpdateCheckInterval>(rows, &Row::raw, raw);
 }
 
 QString UpdateCheckInterval::rawValue() const {
