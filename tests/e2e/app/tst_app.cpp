@@ -15,6 +15,11 @@
 class AppTest : public QObject {
     Q_OBJECT
 
+    // Firefox ESR as the browser target, as the settings file stores it.
+    static inline const QByteArray firefoxTarget =
+        "targetDefaultBrowser=\"@ByteArray({\\\"id\\\":\\\"6F1C1E3A-27D5-4B8E-9D0A-3C2B1A0F9E8D\\\","
+        "\\\"name\\\":\\\"Firefox ESR\\\",\\\"bundleIdentifier\\\":\\\"firefox-esr\\\"})\"\n";
+
     std::unique_ptr<XdgTree> m_tree;
 
     // A real entry, its programs replaced by stubs so GIO counts it as installed.
@@ -119,9 +124,7 @@ class AppTest : public QObject {
         QVERIFY(run(QStringLiteral("gio"), {"mime", "x-scheme-handler/http", "chromium.desktop"}));
         m_tree->write(QStringLiteral("config/io.kestrane.vandorel/settings.ini"),
                       "[General]\nhasLaunchedBefore=true\nmonitoringEnabled=true\ncheckInterval=10min\n"
-                      "checkOnLogin=true\n"
-                      "targetDefaultBrowser=\"@ByteArray({\\\"id\\\":\\\"6F1C1E3A-27D5-4B8E-9D0A-3C2B1A0F9E8D\\\","
-                      "\\\"name\\\":\\\"Firefox ESR\\\",\\\"bundleIdentifier\\\":\\\"firefox-esr\\\"})\"\n");
+                      "checkOnLogin=true\n" + firefoxTarget);
     }
 
 private Q_SLOTS:
@@ -197,9 +200,8 @@ private Q_SLOTS:
         QVERIFY(run(QStringLiteral("gio"), {"mime", "x-scheme-handler/https", "chromium.desktop"}));
         m_tree->write(QStringLiteral("config/io.kestrane.vandorel/settings.ini"),
                       "[General]\nmonitoringEnabled=true\ncheckInterval=5min\n"
-                      "targetDefaultBrowser=\"@ByteArray({\\\"id\\\":\\\"6F1C1E3A-27D5-4B8E-9D0A-3C2B1A0F9E8D\\\","
-                      "\\\"name\\\":\\\"Firefox ESR\\\",\\\"bundleIdentifier\\\":\\\"firefox-esr\\\"})\"\n"
-                      "emailMonitoringEnabled=maybe\ntargetDefaultEmailClient=@ByteArray(garbage)\n");
+                      + firefoxTarget
+                      + "emailMonitoringEnabled=maybe\ntargetDefaultEmailClient=@ByteArray(garbage)\n");
         const QByteArray before = m_tree->read(QStringLiteral("config/io.kestrane.vandorel/settings.ini"));
         const QJsonObject report = status();
         const QJsonObject browser = report.value(u"browser").toObject();
