@@ -68,14 +68,14 @@ void HandlerGuard::setDefaultsIfNeeded()
 void HandlerGuard::setTarget(const std::optional<HandlerRecord> &record)
 {
     if (m_settings.setTarget(record))
-        trackTargetSet(record->name);
+        m_profile.trackTargetSet(record->name);
     Q_EMIT objectWillChange();
 }
 
 void HandlerGuard::setMonitoringEnabled(bool enabled)
 {
     m_settings.setMonitoringEnabled(enabled);
-    trackMonitoringToggled(enabled);
+    AptabaseManager::trackMonitoringToggled(m_profile.telemetryType, enabled);
     if (enabled)
         startMonitoring();
     else
@@ -86,7 +86,7 @@ void HandlerGuard::setMonitoringEnabled(bool enabled)
 void HandlerGuard::setCheckInterval(CheckInterval interval)
 {
     m_settings.setCheckInterval(interval);
-    trackSettingChanged(m_profile.settingsPrefix + u"_check_interval", interval.rawValue());
+    trackSetting(u"_check_interval", interval.rawValue());
     if (monitoringEnabled())
         restartMonitoring();
     Q_EMIT objectWillChange();
@@ -95,8 +95,14 @@ void HandlerGuard::setCheckInterval(CheckInterval interval)
 void HandlerGuard::setSnoozeDuration(SnoozeDuration duration)
 {
     m_settings.setSnoozeDuration(duration);
-    trackSettingChanged(m_profile.settingsPrefix + u"_snooze_duration", duration.rawValue());
+    trackSetting(u"_snooze_duration", duration.rawValue());
     Q_EMIT objectWillChange();
+}
+
+// Settings are reported under the guard's prefix: "browser_check_interval".
+void HandlerGuard::trackSetting(QStringView name, const QString &value) const
+{
+    AptabaseManager::trackSettingsChanged(m_profile.settingsPrefix + name, value);
 }
 
 namespace {
@@ -109,21 +115,21 @@ QString boolText(bool value)
 void HandlerGuard::setCheckOnWake(bool on)
 {
     m_settings.setCheckOnWake(on);
-    trackSettingChanged(m_profile.settingsPrefix + u"_check_on_wake", boolText(on));
+    trackSetting(u"_check_on_wake", boolText(on));
     Q_EMIT objectWillChange();
 }
 
 void HandlerGuard::setCheckOnUnlock(bool on)
 {
     m_settings.setCheckOnUnlock(on);
-    trackSettingChanged(m_profile.settingsPrefix + u"_check_on_unlock", boolText(on));
+    trackSetting(u"_check_on_unlock", boolText(on));
     Q_EMIT objectWillChange();
 }
 
 void HandlerGuard::setCheckOnLogin(bool on)
 {
     m_settings.setCheckOnLogin(on);
-    trackSettingChanged(m_profile.settingsPrefix + u"_check_on_login", boolText(on));
+    trackSetting(u"_check_on_login", boolText(on));
     Q_EMIT objectWillChange();
 }
 
@@ -320,7 +326,7 @@ void HandlerGuard::recordChange(const HandlerRecord &from, const HandlerRecord &
 {
     if (m_env.log)
         (m_env.log->*m_profile.logChange)(from.name, to.name);
-    trackDefaultChanged(from.name, to.name, autoFix);
+    m_profile.trackDefaultChanged(from.name, to.name, autoFix);
     setChangeCount(checkedIncrement(changeCount()));
     setLastChange(m_env.clock->now());
 }
@@ -420,7 +426,7 @@ void HandlerGuard::cancelChange()
 
 void HandlerGuard::showChangedAlert(const HandlerRecord &current, const HandlerRecord &target)
 {
-    trackAlertShown(m_profile.alertType);
+    AptabaseManager::trackAlertShown(m_profile.alertType);
     if (!m_env.alerts)
         return;
     const LanguageManager &language = LanguageManager::shared();
@@ -443,10 +449,10 @@ void HandlerGuard::showChangedAlert(const HandlerRecord &current, const HandlerR
 void HandlerGuard::alertAnswered(AlertPresenter::Answer answer, const HandlerRecord &target)
 {
     if (answer == AlertPresenter::Answer::first) {
-        trackAlertAction(m_profile.alertType, QStringLiteral("fix"));
+        AptabaseManager::trackAlertAction(m_profile.alertType, QStringLiteral("fix"));
         setDefault(target);
     } else {
-        trackAlertAction(m_profile.alertType, QStringLiteral("keep"));
+        AptabaseManager::trackAlertAction(m_profile.alertType, QStringLiteral("keep"));
         snoozeMonitoring();
     }
 }
@@ -458,42 +464,5 @@ void HandlerGuard::snoozeMonitoring()
     // A new snooze replaces a running one; its end is computed from now.
     m_snoozeUntil = now.addMSecs(qRound64(seconds * 1000));
     setSnoozed(true);
-    trackSnoozeActivated(m_profile.telemetryType, snoozeDuration().rawValue());
-}
-
-// --- telemetry call sites -----------------------------------------------------------------------
-
-void HandlerGuard::trackTargetSet(const QString &name)
-{
-    m_profile.trackTargetSet(name);
-}
-
-void HandlerGuard::trackMonitoringToggled(bool enabled)
-{
-    AptabaseManager::trackMonitoringToggled(m_profile.telemetryType, enabled);
-}
-
-void HandlerGuard::trackSettingChanged(const QString &setting, const QString &value)
-{
-    AptabaseManager::trackSettingsChanged(setting, value);
-}
-
-void HandlerGuard::trackDefaultChanged(const QString &from, const QString &to, bool autoFix)
-{
-    m_profile.trackDefaultChanged(from, to, autoFix);
-}
-
-void HandlerGuard::trackAlertShown(const QString &type)
-{
-    AptabaseManager::trackAlertShown(type);
-}
-
-void HandlerGuard::trackAlertAction(const QString &type, const QString &action)
-{
-    AptabaseManager::trackAlertAction(type, action);
-}
-
-void HandlerGuard::trackSnoozeActivated(const QString &type, const QString &duration)
-{
-    AptabaseManager::trackSnoozeActivated(type, duration);
+    AptabaseManager::trackSnoozeActivated(m_profile.telemetryType, snoozeDuration().rawValue());
 }

@@ -99,18 +99,10 @@ private:
     void pollTick();
     void endChange();
     void recordChange(const HandlerRecord &from, const HandlerRecord &to, bool autoFix);
+    void trackSetting(QStringView name, const QString &value) const;
 
     void showChangedAlert(const HandlerRecord &current, const HandlerRecord &target);
     void alertAnswered(AlertPresenter::Answer answer, const HandlerRecord &target);
-
-    // Telemetry call sites.
-    void trackTargetSet(const QString &name);
-    void trackMonitoringToggled(bool enabled);
-    void trackSettingChanged(const QString &setting, const QString &value);
-    void trackDefaultChanged(const QString &from, const QString &to, bool autoFix);
-    void trackAlertShown(const QString &type);
-    void trackAlertAction(const QString &type, const QString &action);
-    void trackSnoozeActivated(const QString &type, const QString &duration);
 
     void setInstalled(const QList<HandlerRecord> &records);
     void setCurrentDefault(const std::optional<HandlerRecord> &record);
