@@ -29,10 +29,11 @@ VandorelApp::VandorelApp(const Options &options)
     ensureSingleInstance();
     AptabaseManager::shared();
     // Events wait in the queue until a window of ours first becomes active.
-    connect(qGuiApp, &QGuiApplication::applicationStateChanged, this, [](Qt::ApplicationState state) {
-        if (state == Qt::ApplicationActive)
-            Aptabase::shared().startPolling();
-    });
+    connect(qGuiApp, &QGuiApplication::applicationStateChanged, this,
+            [](Qt::ApplicationState state) {
+                if (state == Qt::ApplicationActive)
+                    Aptabase::shared().startPolling();
+            });
     connect(qApp, &QCoreApplication::aboutToQuit, this, [] { Aptabase::shared().stopPolling(); });
     UpdateManager::shared().setPresenter(std::make_shared<UpdateDialogPresenter>());
 
@@ -55,7 +56,8 @@ VandorelApp::VandorelApp(const Options &options)
     m_emailClientManager = std::make_unique<EmailClientManager>(m_environment);
 
     QTimer::singleShot(0, m_delegate, &AppDelegate::applicationDidFinishLaunching);
-    connect(qApp, &QCoreApplication::aboutToQuit, m_delegate, &AppDelegate::applicationWillTerminate);
+    connect(qApp, &QCoreApplication::aboutToQuit, m_delegate,
+            &AppDelegate::applicationWillTerminate);
 }
 
 VandorelApp::~VandorelApp() = default;

@@ -7,16 +7,18 @@
 
 namespace {
 
-template <class> inline constexpr bool alwaysFalse = false;
+template <class>
+inline constexpr bool alwaysFalse = false;
 
 } // namespace
 
-std::optional<QJsonValue> AnyCodableValue::toJson() const {
+std::optional<QJsonValue> AnyCodableValue::toJson() const
+{
     return std::visit(
         [](const auto &value) -> std::optional<QJsonValue> {
             using T = std::decay_t<decltype(value)>;
-            if constexpr (std::is_same_v<T, qint64> || std::is_same_v<T, QString> ||
-                          std::is_same_v<T, bool>) {
+            if constexpr (std::is_same_v<
+                              T, qint64> || std::is_same_v<T, QString> || std::is_same_v<T, bool>) {
                 return QJsonValue(value);
             } else if constexpr (std::is_same_v<T, double>) {
                 if (!std::isfinite(value))

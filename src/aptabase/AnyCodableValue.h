@@ -29,8 +29,7 @@ public:
 
 private:
     using Storage = std::variant<qint64, QString, float, double, bool, std::monostate>;
-    explicit AnyCodableValue(Storage value)
-        : m_value(std::move(value)) {}
+    explicit AnyCodableValue(Storage value) : m_value(std::move(value)) {}
     Storage m_value;
 };
 

@@ -9,7 +9,8 @@
 
 namespace {
 
-std::optional<AnyCodableValue> codableValue(const QVariant &value) {
+std::optional<AnyCodableValue> codableValue(const QVariant &value)
+{
     switch (value.typeId()) {
     case QMetaType::Int:
     case QMetaType::UInt:
@@ -35,43 +36,52 @@ Aptabase *sharedInstance = nullptr;
 
 } // namespace
 
-Aptabase &Aptabase::shared() {
+Aptabase &Aptabase::shared()
+{
     // Made on first touch and never destroyed: its client may still be flushing at exit.
     if (!sharedInstance)
         sharedInstance = new Aptabase();
     return *sharedInstance;
 }
 
-void Aptabase::setShared(Aptabase *instance) {
+void Aptabase::setShared(Aptabase *instance)
+{
     sharedInstance = instance;
 }
 
 Aptabase::Aptabase(EnvironmentInfo env)
-    : m_env(std::move(env))
-    , m_hosts{
-          {QStringLiteral("US"), QString::fromUtf8(BuildConfig::analyticsUsHost)},
-          {QStringLiteral("EU"), QString::fromUtf8(BuildConfig::analyticsEuHost)},
-          {QStringLiteral("DEV"), QStringLiteral("http://localhost:3000")},
-          {QStringLiteral("SH"), QString()},
-      } {}
+    : m_env(std::move(env)), m_hosts{
+                                 {QStringLiteral("US"),
+                                  QString::fromUtf8(BuildConfig::analyticsUsHost)},
+                                 {QStringLiteral("EU"),
+                                  QString::fromUtf8(BuildConfig::analyticsEuHost)},
+                                 {QStringLiteral("DEV"), QStringLiteral("http://localhost:3000")},
+                                 {QStringLiteral("SH"), QString()},
+                             }
+{
+}
 
-Aptabase::~Aptabase() {
+Aptabase::~Aptabase()
+{
     delete m_client;
 }
 
-void Aptabase::initialize(const QString &appKey) {
+void Aptabase::initialize(const QString &appKey)
+{
     initialize(appKey, std::optional<InitOptions>());
 }
 
-void Aptabase::initialize(const QString &appKey, const InitOptions &options) {
+void Aptabase::initialize(const QString &appKey, const InitOptions &options)
+{
     initialize(appKey, std::optional<InitOptions>(options));
 }
 
-void Aptabase::initialize(const QString &appKey, const std::optional<InitOptions> &with) {
+void Aptabase::initialize(const QString &appKey, const std::optional<InitOptions> &with)
+{
     const QStringList parts = appKey.split(QLatin1Char('-'));
     if (parts.size() != 3 || !m_hosts.contains(parts.at(1))) {
-        DebugPrint::write(QStringLiteral("The Aptabase App Key ") + appKey +
-                          QStringLiteral(" is invalid. Tracking will be disabled."));
+        DebugPrint::write(QStringLiteral("The Aptabase App Key ") + appKey
+                          + QStringLiteral(" is invalid. Tracking will be disabled."));
         return;
     }
     const std::optional<QString> baseUrl =
@@ -88,7 +98,8 @@ void Aptabase::initialize(const QString &appKey, const std::optional<InitOptions
 }
 
 std::optional<QString> Aptabase::getBaseUrl(const QString &region,
-                                            const std::optional<QString> &host) const {
+                                            const std::optional<QString> &host) const
+{
     const auto found = m_hosts.constFind(region);
     if (found == m_hosts.cend())
         return std::nullopt;
@@ -104,40 +115,46 @@ std::optional<QString> Aptabase::getBaseUrl(const QString &region,
     return found.value();
 }
 
-void Aptabase::trackEvent(const QString &eventName, const QVariantMap &with) {
+void Aptabase::trackEvent(const QString &eventName, const QVariantMap &with)
+{
     if (const std::optional<CodableProps> props = toCodableProps(with))
         enqueueEvent(eventName, *props);
 }
 
-void Aptabase::enqueueEvent(const QString &eventName, const CodableProps &with) {
+void Aptabase::enqueueEvent(const QString &eventName, const CodableProps &with)
+{
     if (m_client)
         m_client->trackEvent(eventName, with);
 }
 
-void Aptabase::flush() {
+void Aptabase::flush()
+{
     if (m_client)
         m_client->flush();
 }
 
-void Aptabase::startPolling() {
+void Aptabase::startPolling()
+{
     if (m_client)
         m_client->startPolling();
 }
 
-void Aptabase::stopPolling() {
+void Aptabase::stopPolling()
+{
     if (m_client)
         m_client->stopPolling();
 }
 
-std::optional<CodableProps> Aptabase::toCodableProps(const QVariantMap &from) {
+std::optional<CodableProps> Aptabase::toCodableProps(const QVariantMap &from)
+{
     CodableProps result;
     for (auto it = from.cbegin(); it != from.cend(); ++it) {
         std::optional<AnyCodableValue> value = codableValue(it.value());
         if (!value) {
-            DebugPrint::write(QStringLiteral("Aptabase: Props with key ") + it.key() +
-                              QStringLiteral(" has an unsupported value type. Supported types "
-                                             "are: String, Int, Double, Float and Boolean. "
-                                             "Event will be discarded"));
+            DebugPrint::write(QStringLiteral("Aptabase: Props with key ") + it.key()
+                              + QStringLiteral(" has an unsupported value type. Supported types "
+                                               "are: String, Int, Double, Float and Boolean. "
+                                               "Event will be discarded"));
             return std::nullopt;
         }
         result.insert(it.key(), *value);

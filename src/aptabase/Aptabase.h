@@ -35,7 +35,9 @@ public:
     void initialize(const QString &appKey, const InitOptions &options);
 
     // A template only so that a braced list of properties picks the QVariantMap form below.
-    template <class = void> void trackEvent(const QString &eventName, const ValueProps &with) {
+    template <class = void>
+    void trackEvent(const QString &eventName, const ValueProps &with)
+    {
         QVariantMap widened;
         for (auto it = with.cbegin(); it != with.cend(); ++it)
             widened.insert(it.key(), it.value().toVariant());

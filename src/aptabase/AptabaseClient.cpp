@@ -21,10 +21,9 @@ AptabaseClient::AptabaseClient(const QString &appKey, const QString &baseUrl,
                                const EnvironmentInfo &env,
                                const std::optional<InitOptions> &options,
                                QNetworkAccessManager *session, Clock clock, QObject *parent)
-    : QObject(parent)
-    , m_clock(clock ? std::move(clock) : Clock(&QDateTime::currentDateTimeUtc))
-    , m_dispatcher(new EventDispatcher(appKey, baseUrl, env, session, this))
-    , m_env(env) {
+    : QObject(parent), m_clock(clock ? std::move(clock) : Clock(&QDateTime::currentDateTimeUtc)),
+      m_dispatcher(new EventDispatcher(appKey, baseUrl, env, session, this)), m_env(env)
+{
     m_sessionId = newSessionId();
     m_lastTouched = m_clock();
     if (options && options->flushInterval())
@@ -35,17 +34,19 @@ AptabaseClient::AptabaseClient(const QString &appKey, const QString &baseUrl,
 
 AptabaseClient::~AptabaseClient() = default;
 
-QString AptabaseClient::newSessionId() const {
+QString AptabaseClient::newSessionId() const
+{
     const qint64 seconds = m_clock().toSecsSinceEpoch();
     Q_ASSERT(seconds >= 0);
     quint64 id = 0;
-    if (qMulOverflow(quint64(seconds), randomPartRange, &id) ||
-        qAddOverflow(id, QRandomGenerator::global()->bounded(randomPartRange), &id))
+    if (qMulOverflow(quint64(seconds), randomPartRange, &id)
+        || qAddOverflow(id, QRandomGenerator::global()->bounded(randomPartRange), &id))
         qFatal("Aptabase: session id overflow");
     return QString::number(id);
 }
 
-void AptabaseClient::trackEvent(const QString &eventName, const CodableProps &props) {
+void AptabaseClient::trackEvent(const QString &eventName, const CodableProps &props)
+{
     const QDateTime now = m_clock();
     if (m_lastTouched.msecsTo(now) > qint64(sessionTimeout * 1000))
         m_sessionId = newSessionId();
@@ -67,7 +68,8 @@ void AptabaseClient::trackEvent(const QString &eventName, const CodableProps &pr
     m_dispatcher->enqueue(event);
 }
 
-void AptabaseClient::startPolling() {
+void AptabaseClient::startPolling()
+{
     stopPolling();
     m_flushTimer = new QTimer(this);
     const double milliseconds = std::round(m_flushInterval * 1000);
@@ -76,7 +78,8 @@ void AptabaseClient::startPolling() {
     m_flushTimer->start();
 }
 
-void AptabaseClient::stopPolling() {
+void AptabaseClient::stopPolling()
+{
     if (m_flushTimer) {
         m_flushTimer->stop();
         m_flushTimer->deleteLater();
@@ -85,11 +88,13 @@ void AptabaseClient::stopPolling() {
     flush();
 }
 
-void AptabaseClient::flush(std::function<void()> done) {
+void AptabaseClient::flush(std::function<void()> done)
+{
     m_dispatcher->flush(std::move(done));
 }
 
-void AptabaseClient::timerFlushSync() {
+void AptabaseClient::timerFlushSync()
+{
     // A tick during a running timer flush is skipped, not deferred.
     if (m_pauseFlushTimer)
         return;

@@ -8,19 +8,23 @@
 
 // A first-in first-out list shared between threads. Every operation holds the one mutex, so
 // an element appended before a read is seen by that read.
-template <class T> class ConcurrentQueue {
+template <class T>
+class ConcurrentQueue {
 public:
-    void enqueue(const T &element) {
+    void enqueue(const T &element)
+    {
         QMutexLocker lock(&m_mutex);
         m_elements.append(element);
     }
 
-    void enqueue(const QList<T> &contentsOf) {
+    void enqueue(const QList<T> &contentsOf)
+    {
         QMutexLocker lock(&m_mutex);
         m_elements.append(contentsOf);
     }
 
-    std::optional<T> dequeue() {
+    std::optional<T> dequeue()
+    {
         QMutexLocker lock(&m_mutex);
         if (m_elements.isEmpty())
             return std::nullopt;
@@ -28,7 +32,8 @@ public:
     }
 
     // The oldest `count` elements, oldest first, or all of them if there are fewer.
-    QList<T> dequeue(qsizetype count) {
+    QList<T> dequeue(qsizetype count)
+    {
         QMutexLocker lock(&m_mutex);
         const qsizetype taken = qBound(qsizetype(0), count, m_elements.size());
         QList<T> result = m_elements.first(taken);
@@ -36,12 +41,14 @@ public:
         return result;
     }
 
-    bool isEmpty() const {
+    bool isEmpty() const
+    {
         QMutexLocker lock(&m_mutex);
         return m_elements.isEmpty();
     }
 
-    qsizetype count() const {
+    qsizetype count() const
+    {
         QMutexLocker lock(&m_mutex);
         return m_elements.size();
     }

@@ -11,7 +11,8 @@ namespace {
 QMutex sinkMutex;
 DebugPrint::Sink currentSink;
 
-QString escaped(char32_t scalar) {
+QString escaped(char32_t scalar)
+{
     switch (scalar) {
     case U'\0':
         return QStringLiteral("\\0");
@@ -37,7 +38,8 @@ QString escaped(char32_t scalar) {
 
 } // namespace
 
-QString DebugPrint::quoted(const QString &text) {
+QString DebugPrint::quoted(const QString &text)
+{
     QString result = QStringLiteral("\"");
     for (char32_t scalar : text.toUcs4())
         result += escaped(scalar);
@@ -45,7 +47,8 @@ QString DebugPrint::quoted(const QString &text) {
     return result;
 }
 
-void DebugPrint::write(const QString &text) {
+void DebugPrint::write(const QString &text)
+{
     const QString line = quoted(text);
     QMutexLocker lock(&sinkMutex);
     if (currentSink) {
@@ -57,7 +60,8 @@ void DebugPrint::write(const QString &text) {
     std::fflush(stdout);
 }
 
-DebugPrint::Sink DebugPrint::setSink(Sink sink) {
+DebugPrint::Sink DebugPrint::setSink(Sink sink)
+{
     QMutexLocker lock(&sinkMutex);
     std::swap(sink, currentSink);
     return sink;

@@ -10,7 +10,8 @@
 
 namespace {
 
-QString firstLineOf(const QString &path) {
+QString firstLineOf(const QString &path)
+{
     QFile file(path);
     if (!file.open(QIODevice::ReadOnly))
         return {};
@@ -22,14 +23,16 @@ QString firstLineOf(const QString &path) {
     return QString::fromUtf8(bytes).section(QLatin1Char('\n'), 0, 0).trimmed();
 }
 
-QString unameMachine() {
+QString unameMachine()
+{
     utsname names{};
     if (uname(&names) != 0)
         return {};
     return QString::fromUtf8(names.machine);
 }
 
-QString languageCode(const QLocale &locale) {
+QString languageCode(const QLocale &locale)
+{
     const QLocale::Language language = locale.language();
     if (language == QLocale::C || language == QLocale::AnyLanguage)
         return {};
@@ -38,7 +41,8 @@ QString languageCode(const QLocale &locale) {
 
 } // namespace
 
-EnvironmentInfo EnvironmentInfo::current() {
+EnvironmentInfo EnvironmentInfo::current()
+{
     EnvironmentInfo info;
     info.isDebug = BuildConfig::debugBuild;
     info.osName = QStringLiteral("Linux");
@@ -50,7 +54,8 @@ EnvironmentInfo EnvironmentInfo::current() {
     return info;
 }
 
-QString EnvironmentInfo::paddedVersion(const QString &productVersion) {
+QString EnvironmentInfo::paddedVersion(const QString &productVersion)
+{
     const QStringList parts = productVersion.split(QLatin1Char('.'));
     QStringList numbers;
     for (int i = 0; i < 3; ++i) {
@@ -62,7 +67,8 @@ QString EnvironmentInfo::paddedVersion(const QString &productVersion) {
 }
 
 QString EnvironmentInfo::deviceModelFrom(const QString &dmiProductNamePath,
-                                         const QString &deviceTreeModelPath) {
+                                         const QString &deviceTreeModelPath)
+{
     for (const QString &path : {dmiProductNamePath, deviceTreeModelPath}) {
         const QString model = firstLineOf(path);
         if (!model.isEmpty())
@@ -74,7 +80,8 @@ QString EnvironmentInfo::deviceModelFrom(const QString &dmiProductNamePath,
     return unameMachine();
 }
 
-QString EnvironmentInfo::deviceModelOfThisMachine() {
+QString EnvironmentInfo::deviceModelOfThisMachine()
+{
     return deviceModelFrom(QStringLiteral("/sys/class/dmi/id/product_name"),
                            QStringLiteral("/proc/device-tree/model"));
 }

@@ -1,6 +1,7 @@
 #include "aptabase/Event.h"
 
-QJsonObject Event::SystemProps::toJson() const {
+QJsonObject Event::SystemProps::toJson() const
+{
     return QJsonObject{
         {QStringLiteral("isDebug"), isDebug},
         {QStringLiteral("locale"), locale},
@@ -13,7 +14,8 @@ QJsonObject Event::SystemProps::toJson() const {
     };
 }
 
-std::optional<QJsonObject> Event::toJson() const {
+std::optional<QJsonObject> Event::toJson() const
+{
     QJsonObject object{
         {QStringLiteral("timestamp"), formatTimestamp(timestamp)},
         {QStringLiteral("sessionId"), sessionId},
@@ -33,6 +35,7 @@ std::optional<QJsonObject> Event::toJson() const {
     return object;
 }
 
-QString Event::formatTimestamp(const QDateTime &moment) {
+QString Event::formatTimestamp(const QDateTime &moment)
+{
     return moment.toUTC().toString(QStringLiteral("yyyy-MM-dd'T'HH:mm:ss'Z'"));
 }

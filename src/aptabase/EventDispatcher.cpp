@@ -13,12 +13,14 @@ namespace {
 
 constexpr int requestTimeoutMs = 60000;
 
-QString failureLine(qsizetype batchSize, const QString &reason) {
-    return QStringLiteral("Aptabase: Failed to send ") + QString::number(batchSize) +
-           QStringLiteral(" events. Reason: ") + reason;
+QString failureLine(qsizetype batchSize, const QString &reason)
+{
+    return QStringLiteral("Aptabase: Failed to send ") + QString::number(batchSize)
+           + QStringLiteral(" events. Reason: ") + reason;
 }
 
-QString utf8OrEmpty(const QByteArray &bytes) {
+QString utf8OrEmpty(const QByteArray &bytes)
+{
     QStringDecoder decoder(QStringDecoder::Utf8);
     const QString text = decoder.decode(bytes);
     return decoder.hasError() ? QString() : text;
@@ -29,30 +31,33 @@ QString utf8OrEmpty(const QByteArray &bytes) {
 EventDispatcher::EventDispatcher(const QString &appKey, const QString &baseUrl,
                                  const EnvironmentInfo &env, QNetworkAccessManager *session,
                                  QObject *parent)
-    : QObject(parent)
-    , m_headers{
+    : QObject(parent),
+      m_headers{
           {"Content-Type", "application/json"},
           {"App-Key", appKey.toUtf8()},
-          {"User-Agent", (env.osName + QLatin1Char('/') + env.osVersion + QLatin1Char(' ')
-                          + env.locale)
-                             .toUtf8()},
-      }
-    , m_apiUrl(baseUrl + QStringLiteral("/api/v0/events"), QUrl::StrictMode)
-    , m_session(session ? session : new QNetworkAccessManager(this))
+          {"User-Agent",
+           (env.osName + QLatin1Char('/') + env.osVersion + QLatin1Char(' ') + env.locale)
+               .toUtf8()},
+      },
+      m_apiUrl(baseUrl + QStringLiteral("/api/v0/events"), QUrl::StrictMode),
+      m_session(session ? session : new QNetworkAccessManager(this))
 {
     if (!m_apiUrl.isValid())
         qFatal("Aptabase: invalid ingestion address %s", qPrintable(baseUrl));
 }
 
-void EventDispatcher::enqueue(const Event &event) {
+void EventDispatcher::enqueue(const Event &event)
+{
     m_events.enqueue(event);
 }
 
-void EventDispatcher::enqueue(const QList<Event> &events) {
+void EventDispatcher::enqueue(const QList<Event> &events)
+{
     m_events.enqueue(events);
 }
 
-void EventDispatcher::flush(std::function<void()> done) {
+void EventDispatcher::flush(std::function<void()> done)
+{
     if (m_events.isEmpty()) {
         if (done)
             done();
@@ -61,7 +66,8 @@ void EventDispatcher::flush(std::function<void()> done) {
     sendNextBatch(std::make_shared<QList<Event>>(), done);
 }
 
-void EventDispatcher::sendNextBatch(const FailedEvents &failed, const std::function<void()> &done) {
+void EventDispatcher::sendNextBatch(const FailedEvents &failed, const std::function<void()> &done)
+{
     if (m_events.isEmpty()) {
         // Failed batches go to the back, behind whatever arrived meanwhile.
         if (!failed->isEmpty())
@@ -78,7 +84,8 @@ void EventDispatcher::sendNextBatch(const FailedEvents &failed, const std::funct
     });
 }
 
-std::optional<QByteArray> EventDispatcher::encode(const QList<Event> &batch) {
+std::optional<QByteArray> EventDispatcher::encode(const QList<Event> &batch)
+{
     QJsonArray array;
     for (const Event &event : batch) {
         const std::optional<QJsonObject> object = event.toJson();
@@ -89,8 +96,8 @@ std::optional<QByteArray> EventDispatcher::encode(const QList<Event> &batch) {
     return QJsonDocument(array).toJson(QJsonDocument::Compact);
 }
 
-void EventDispatcher::sendEvents(const QList<Event> &batch,
-                                 std::function<void(bool sent)> finished) {
+void EventDispatcher::sendEvents(const QList<Event> &batch, std::function<void(bool sent)> finished)
+{
     if (batch.isEmpty()) {
         finished(true);
         return;
@@ -116,7 +123,8 @@ void EventDispatcher::sendEvents(const QList<Event> &batch,
     });
 }
 
-bool EventDispatcher::handleReply(QNetworkReply *reply, qsizetype batchSize) {
+bool EventDispatcher::handleReply(QNetworkReply *reply, qsizetype batchSize)
+{
     // The reply's error() also reports HTTP statuses of 400 and up; those are answers and are
     // judged by their status. Only a reply without a status failed in transport.
     const QVariant status = reply->attribute(QNetworkRequest::HttpStatusCodeAttribute);
@@ -132,14 +140,14 @@ bool EventDispatcher::handleReply(QNetworkReply *reply, qsizetype batchSize) {
     const QString reason =
         QString::number(statusCode) + QLatin1Char(' ') + utf8OrEmpty(reply->readAll());
     if (statusCode < 500) {
-        DebugPrint::write(QStringLiteral("Aptabase: Failed to send ") + QString::number(batchSize) +
-                          QStringLiteral(" events because of ") + reason +
-                          QStringLiteral(". Will not retry."));
+        DebugPrint::write(QStringLiteral("Aptabase: Failed to send ") + QString::number(batchSize)
+                          + QStringLiteral(" events because of ") + reason
+                          + QStringLiteral(". Will not retry."));
         return true;
     }
-    DebugPrint::write(failureLine(batchSize, QStringLiteral("Error Domain=AptabaseError Code=") +
-                                                 QString::number(statusCode) +
-                                                 QStringLiteral(" \"(null)\" UserInfo={reason=") +
-                                                 reason + QLatin1Char('}')));
+    DebugPrint::write(failureLine(batchSize, QStringLiteral("Error Domain=AptabaseError Code=")
+                                                 + QString::number(statusCode)
+                                                 + QStringLiteral(" \"(null)\" UserInfo={reason=")
+                                                 + reason + QLatin1Char('}')));
     return false;
 }

@@ -17,7 +17,6 @@ public:
     bool operator==(const TrackingMode &other) const { return this == &other; }
 
 private:
-    explicit TrackingMode(int value)
-        : rawValue(value) {}
+    explicit TrackingMode(int value) : rawValue(value) {}
     int rawValue;
 };

@@ -8,20 +8,13 @@
 // string, Boolean), checked at compile time. It keeps its exact type, so a Boolean stays one.
 class Value {
 public:
-    Value(int value)
-        : m_variant(qint64(value)) {}
-    Value(qint64 value)
-        : m_variant(value) {}
-    Value(double value)
-        : m_variant(value) {}
-    Value(float value)
-        : m_variant(value) {}
-    Value(bool value)
-        : m_variant(value) {}
-    Value(const QString &value)
-        : m_variant(value) {}
-    Value(const char *value)
-        : m_variant(QString::fromUtf8(value)) {}
+    Value(int value) : m_variant(qint64(value)) {}
+    Value(qint64 value) : m_variant(value) {}
+    Value(double value) : m_variant(value) {}
+    Value(float value) : m_variant(value) {}
+    Value(bool value) : m_variant(value) {}
+    Value(const QString &value) : m_variant(value) {}
+    Value(const char *value) : m_variant(QString::fromUtf8(value)) {}
 
     const QVariant &toVariant() const { return m_variant; }
 

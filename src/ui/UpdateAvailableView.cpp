@@ -19,20 +19,23 @@ namespace {
 const QColor symbolBlue(0x00, 0x7A, 0xFF);
 const QColor tickGreen(0x34, 0xC7, 0x59);
 
-TimerFactory &defaultTimers() {
+TimerFactory &defaultTimers()
+{
     static QtTimerFactory timers;
     return timers;
 }
 
 // Text styles relative to the body size: title 2, subheadline and caption.
-QFont scaledFont(const QFont &base, double factor, bool bold = false) {
+QFont scaledFont(const QFont &base, double factor, bool bold = false)
+{
     QFont font = base;
     font.setPointSizeF(base.pointSizeF() * factor);
     font.setBold(bold);
     return font;
 }
 
-QString rgba(const QColor &color) {
+QString rgba(const QColor &color)
+{
     return QStringLiteral("rgba(%1, %2, %3, %4)")
         .arg(color.red())
         .arg(color.green())
@@ -40,11 +43,13 @@ QString rgba(const QColor &color) {
         .arg(color.alphaF());
 }
 
-QColor secondaryColor(const QWidget &widget) {
+QColor secondaryColor(const QWidget &widget)
+{
     return widget.palette().color(QPalette::PlaceholderText);
 }
 
-QLabel *symbolLabel(const QString &symbol, const QColor &color, int size, QWidget *parent) {
+QLabel *symbolLabel(const QString &symbol, const QColor &color, int size, QWidget *parent)
+{
     auto *label = new QLabel(parent);
     label->setPixmap(SymbolTable::tinted(symbol, color, size));
     label->setFixedSize(size, size);
@@ -56,18 +61,17 @@ QLabel *symbolLabel(const QString &symbol, const QColor &color, int size, QWidge
 UpdateAvailableView::UpdateAvailableView(const QString &version, bool isBrewInstall,
                                          std::function<void()> onDismiss, QWidget *parent)
     : UpdateAvailableView(version, isBrewInstall, std::move(onDismiss), LanguageManager::shared(),
-                          defaultTimers(), parent) {}
+                          defaultTimers(), parent)
+{
+}
 
 UpdateAvailableView::UpdateAvailableView(const QString &version, bool isBrewInstall,
                                          std::function<void()> onDismiss,
                                          LanguageManager &languageManager, TimerFactory &timers,
                                          QWidget *parent)
-    : QDialog(parent)
-    , m_languageManager(languageManager)
-    , m_timers(timers)
-    , m_version(version)
-    , m_isBrewInstall(isBrewInstall)
-    , m_onDismiss(std::move(onDismiss)) {
+    : QDialog(parent), m_languageManager(languageManager), m_timers(timers), m_version(version),
+      m_isBrewInstall(isBrewInstall), m_onDismiss(std::move(onDismiss))
+{
     auto *layout = new QVBoxLayout(this);
     layout->setSpacing(20);
     layout->setContentsMargins(24, 24, 24, 24);
@@ -101,7 +105,8 @@ UpdateAvailableView::UpdateAvailableView(const QString &version, bool isBrewInst
     retranslate();
 }
 
-QWidget *UpdateAvailableView::makeBrewSection() {
+QWidget *UpdateAvailableView::makeBrewSection()
+{
     auto *section = new QWidget(this);
     section->setObjectName(QStringLiteral("brewSection"));
     section->setAttribute(Qt::WA_StyledBackground);
@@ -159,7 +164,8 @@ QWidget *UpdateAvailableView::makeBrewSection() {
     return section;
 }
 
-void UpdateAvailableView::retranslate() {
+void UpdateAvailableView::retranslate()
+{
     const QString title =
         m_languageManager.localizedString(QStringLiteral("update_available_title"));
     setWindowTitle(title);
@@ -188,7 +194,8 @@ void UpdateAvailableView::retranslate() {
     fitToWidth();
 }
 
-void UpdateAvailableView::fitToWidth() {
+void UpdateAvailableView::fitToWidth()
+{
     // Fixed width; the height follows the wrapped texts.
     setFixedWidth(sheetWidth);
     const int height = layout()->hasHeightForWidth() ? layout()->totalHeightForWidth(sheetWidth)
@@ -196,7 +203,8 @@ void UpdateAvailableView::fitToWidth() {
     setFixedHeight(height);
 }
 
-void UpdateAvailableView::copyBrewCommand() {
+void UpdateAvailableView::copyBrewCommand()
+{
     QClipboard *clipboard = QGuiApplication::clipboard();
     clipboard->clear();
     clipboard->setText(QString::fromLatin1(brewCommand));
@@ -205,12 +213,14 @@ void UpdateAvailableView::copyBrewCommand() {
     m_timers.singleShot(copiedTickDuration, this, [this] { setCopied(false); });
 }
 
-void UpdateAvailableView::setCopied(bool copied) {
+void UpdateAvailableView::setCopied(bool copied)
+{
     m_isCopied = copied;
     showCopyState();
 }
 
-void UpdateAvailableView::showCopyState() {
+void UpdateAvailableView::showCopyState()
+{
     if (!m_copyButton)
         return;
     m_copyButton->setIcon(
@@ -218,7 +228,8 @@ void UpdateAvailableView::showCopyState() {
                    : SymbolTable::tinted(QStringLiteral("doc.on.doc"), secondaryColor(*this), 32));
 }
 
-void UpdateAvailableView::dismissUpdate() {
+void UpdateAvailableView::dismissUpdate()
+{
     if (m_onDismiss) {
         m_onDismiss();
         return;
@@ -226,6 +237,7 @@ void UpdateAvailableView::dismissUpdate() {
     QDialog::reject();
 }
 
-void UpdateAvailableView::reject() {
+void UpdateAvailableView::reject()
+{
     dismissUpdate();
 }

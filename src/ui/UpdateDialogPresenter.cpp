@@ -10,7 +10,8 @@ namespace {
 
 const QColor upToDateGreen(0x34, 0xC7, 0x59);
 
-void bringToFront(QWidget *window) {
+void bringToFront(QWidget *window)
+{
     window->show();
     window->raise();
     window->activateWindow();
@@ -18,12 +19,14 @@ void bringToFront(QWidget *window) {
 
 } // namespace
 
-UpdateDialogPresenter::~UpdateDialogPresenter() {
+UpdateDialogPresenter::~UpdateDialogPresenter()
+{
     delete m_sheet;
     delete m_noUpdateMessage;
 }
 
-void UpdateDialogPresenter::presentUpdateAvailable(const QString &version, bool isBrewInstall) {
+void UpdateDialogPresenter::presentUpdateAvailable(const QString &version, bool isBrewInstall)
+{
     if (m_sheet)
         m_sheet->close();
     m_sheet = new UpdateAvailableView(version, isBrewInstall);
@@ -31,7 +34,8 @@ void UpdateDialogPresenter::presentUpdateAvailable(const QString &version, bool 
     bringToFront(m_sheet);
 }
 
-void UpdateDialogPresenter::presentNoUpdate() {
+void UpdateDialogPresenter::presentNoUpdate()
+{
     if (m_noUpdateMessage)
         m_noUpdateMessage->close();
     const LanguageManager &language = LanguageManager::shared();

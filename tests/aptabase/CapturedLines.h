@@ -6,7 +6,8 @@
 
 // Takes the analytics client's debug lines for as long as it lives.
 struct CapturedLines {
-    CapturedLines() {
+    CapturedLines()
+    {
         previous = DebugPrint::setSink([this](const QString &line) { lines << line; });
     }
     ~CapturedLines() { DebugPrint::setSink(previous); }

@@ -6,8 +6,8 @@
 #include <QRegularExpression>
 #include <QTcpSocket>
 
-LoopbackIngestion::LoopbackIngestion(QObject *parent)
-    : QObject(parent) {
+LoopbackIngestion::LoopbackIngestion(QObject *parent) : QObject(parent)
+{
     connect(&m_server, &QTcpServer::newConnection, this, [this] {
         while (QTcpSocket *socket = m_server.nextPendingConnection()) {
             connect(socket, &QTcpSocket::readyRead, this, [this, socket] { readFrom(socket); });
@@ -16,18 +16,21 @@ LoopbackIngestion::LoopbackIngestion(QObject *parent)
     });
 }
 
-bool LoopbackIngestion::listen(quint16 port) {
+bool LoopbackIngestion::listen(quint16 port)
+{
     if (!m_server.listen(QHostAddress::LocalHost, port))
         return false;
     m_port = m_server.serverPort();
     return true;
 }
 
-QString LoopbackIngestion::baseUrl() const {
+QString LoopbackIngestion::baseUrl() const
+{
     return QStringLiteral("http://127.0.0.1:%1").arg(m_port);
 }
 
-void LoopbackIngestion::readFrom(QTcpSocket *socket) {
+void LoopbackIngestion::readFrom(QTcpSocket *socket)
+{
     QByteArray &buffer = m_buffers[socket];
     buffer += socket->readAll();
     const qsizetype headerEnd = buffer.indexOf("\r\n\r\n");
@@ -65,27 +68,31 @@ void LoopbackIngestion::readFrom(QTcpSocket *socket) {
         answer(socket);
 }
 
-void LoopbackIngestion::release() {
+void LoopbackIngestion::release()
+{
     m_holding = false;
     for (QTcpSocket *socket : std::exchange(m_held, {}))
         answer(socket);
 }
 
-void LoopbackIngestion::answer(QTcpSocket *socket) {
+void LoopbackIngestion::answer(QTcpSocket *socket)
+{
     --openRequests;
     const Answer next = m_script.isEmpty() ? Answer() : m_script.takeFirst();
-    socket->write(
-        "HTTP/1.1 " + QByteArray::number(next.status) + " Scripted\r\n" +
-        "Content-Type: text/plain\r\nContent-Length: " + QByteArray::number(next.body.size()) +
-        "\r\nConnection: close\r\n\r\n" + next.body);
+    socket->write("HTTP/1.1 " + QByteArray::number(next.status) + " Scripted\r\n"
+                  + "Content-Type: text/plain\r\nContent-Length: "
+                  + QByteArray::number(next.body.size()) + "\r\nConnection: close\r\n\r\n"
+                  + next.body);
     socket->disconnectFromHost();
 }
 
-QJsonArray LoopbackIngestion::Request::events() const {
+QJsonArray LoopbackIngestion::Request::events() const
+{
     return QJsonDocument::fromJson(body).array();
 }
 
-QStringList LoopbackIngestion::Request::eventNames() const {
+QStringList LoopbackIngestion::Request::eventNames() const
+{
     QStringList names;
     for (const QJsonValue &event : events())
         names << event[QLatin1String("eventName")].toString();
@@ -95,7 +102,8 @@ QStringList LoopbackIngestion::Request::eventNames() const {
 namespace {
 
 void checkText(QStringList &problems, const QJsonObject &object, const char *key, int maximum,
-               bool required) {
+               bool required)
+{
     const QJsonValue value = object.value(QLatin1String(key));
     if (value.isUndefined() || value.isNull()) {
         if (required)
@@ -110,7 +118,8 @@ void checkText(QStringList &problems, const QJsonObject &object, const char *key
         problems << QStringLiteral("%1 is longer than %2").arg(QLatin1String(key)).arg(maximum);
 }
 
-void checkTimestamp(QStringList &problems, const QJsonValue &value) {
+void checkTimestamp(QStringList &problems, const QJsonValue &value)
+{
     static const QRegularExpression form(
         QStringLiteral("^\\d{4}-\\d\\d-\\d\\dT\\d\\d:\\d\\d:\\d\\dZ$"));
     const QString text = value.toString();
@@ -126,7 +135,8 @@ void checkTimestamp(QStringList &problems, const QJsonValue &value) {
         problems << QStringLiteral("timestamp %1 is older than a day").arg(text);
 }
 
-void checkProps(QStringList &problems, const QJsonValue &value) {
+void checkProps(QStringList &problems, const QJsonValue &value)
+{
     if (value.isUndefined())
         return;
     if (!value.isObject()) {
@@ -148,7 +158,8 @@ void checkProps(QStringList &problems, const QJsonValue &value) {
 
 } // namespace
 
-QStringList LoopbackIngestion::validateEvents(const QByteArray &body, bool checkTimestamps) {
+QStringList LoopbackIngestion::validateEvents(const QByteArray &body, bool checkTimestamps)
+{
     QStringList problems;
     const QJsonDocument document = QJsonDocument::fromJson(body);
     if (!document.isArray() || document.array().isEmpty() || document.array().size() > 25)

@@ -13,26 +13,30 @@ namespace {
 const QString appKey = QStringLiteral("A-SH-4817305526");
 
 std::unique_ptr<AptabaseClient> clientFor(const QString &baseUrl, double flushInterval = 3600,
-                                          AptabaseClient::Clock clock = {}) {
+                                          AptabaseClient::Clock clock = {})
+{
     return std::make_unique<AptabaseClient>(
         appKey, baseUrl, EnvironmentInfo::current(),
         InitOptions(baseUrl, flushInterval, TrackingMode::readFromEnvironment()), nullptr,
         std::move(clock));
 }
 
-void track(AptabaseClient &client, int from, int to) {
+void track(AptabaseClient &client, int from, int to)
+{
     for (int i = from; i < to; ++i)
         client.trackEvent(QStringLiteral("e%1").arg(i));
 }
 
-QStringList names(int from, int to) {
+QStringList names(int from, int to)
+{
     QStringList result;
     for (int i = from; i < to; ++i)
         result << QStringLiteral("e%1").arg(i);
     return result;
 }
 
-bool flushAndWait(AptabaseClient &client) {
+bool flushAndWait(AptabaseClient &client)
+{
     bool done = false;
     client.flush([&done] { done = true; });
     return QTest::qWaitFor([&done] { return done; });
@@ -43,7 +47,8 @@ bool flushAndWait(AptabaseClient &client) {
 class TestAptabaseDispatch : public QObject {
     Q_OBJECT
 private slots:
-    void batchesOfAtMost25OldestFirst() {
+    void batchesOfAtMost25OldestFirst()
+    {
         LoopbackIngestion server;
         QVERIFY(server.listen());
         auto client = clientFor(server.baseUrl());
@@ -68,7 +73,8 @@ private slots:
         QCOMPARE(client->dispatcher().pendingCount(), 0);
     }
 
-    void clientErrorDropsTheBatch() {
+    void clientErrorDropsTheBatch()
+    {
         LoopbackIngestion server;
         QVERIFY(server.listen());
         server.script({{404, "No such app"}});
@@ -83,7 +89,8 @@ private slots:
         QCOMPARE(client->dispatcher().pendingCount(), 0);
     }
 
-    void serverErrorOrRefusedConnectionPutsTheBatchBack() {
+    void serverErrorOrRefusedConnectionPutsTheBatchBack()
+    {
         LoopbackIngestion server;
         QVERIFY(server.listen());
         server.script({{500, "down \"for\" now"}});
@@ -117,7 +124,8 @@ private slots:
         QCOMPARE(server.requests[2].eventNames(), names(2, 3));
     }
 
-    void onlyTheFailedBatchOfAFlushReturns() {
+    void onlyTheFailedBatchOfAFlushReturns()
+    {
         LoopbackIngestion server;
         QVERIFY(server.listen());
         server.script({{500, {}}, {200, {}}});
@@ -134,7 +142,8 @@ private slots:
         QCOMPARE(server.requests[2].eventNames(), names(0, 25));
     }
 
-    void eventsWaitForPollingAndStopFlushesOnce() {
+    void eventsWaitForPollingAndStopFlushesOnce()
+    {
         LoopbackIngestion server;
         QVERIFY(server.listen());
         auto client = clientFor(server.baseUrl(), 0.02);
@@ -158,7 +167,8 @@ private slots:
         QCOMPARE(server.requests[2].eventNames(), names(2, 3));
     }
 
-    void tickDuringATimerFlushIsSkipped() {
+    void tickDuringATimerFlushIsSkipped()
+    {
         LoopbackIngestion server;
         QVERIFY(server.listen());
         auto client = clientFor(server.baseUrl(), 0.02);
@@ -179,7 +189,8 @@ private slots:
         QCOMPARE(server.mostOpenRequests, 1);
     }
 
-    void sessionRenewsAfterMoreThanAnHourOfSilence() {
+    void sessionRenewsAfterMoreThanAnHourOfSilence()
+    {
         LoopbackIngestion server;
         QVERIFY(server.listen());
         server.validateTimestamps = false;

@@ -16,7 +16,8 @@ const QString selfHostedLine = QStringLiteral(
     "Aptabase: Host parameter must be defined when using Self-Hosted App Key. Tracking will be "
     "disabled.");
 
-InitOptions optionsWith(const QString &host) {
+InitOptions optionsWith(const QString &host)
+{
     return InitOptions(host, 3600, TrackingMode::readFromEnvironment());
 }
 
@@ -25,17 +26,21 @@ InitOptions optionsWith(const QString &host) {
 class TestAptabaseFront : public QObject {
     Q_OBJECT
 private slots:
-    void refusedKeysLeaveTrackingOff_data() {
+    void refusedKeysLeaveTrackingOff_data()
+    {
         QTest::addColumn<QString>("key");
         QTest::addColumn<bool>("withOptions");
         QTest::addColumn<QString>("line");
         QTest::newRow("two parts") << "A-EU" << false << "The Aptabase App Key A-EU" + invalidTail;
-        QTest::newRow("four parts") << "A-EU-1-2" << true << "The Aptabase App Key A-EU-1-2" + invalidTail;
-        QTest::newRow("lower-case region") << "A-eu-123" << false << "The Aptabase App Key A-eu-123" + invalidTail;
+        QTest::newRow("four parts")
+            << "A-EU-1-2" << true << "The Aptabase App Key A-EU-1-2" + invalidTail;
+        QTest::newRow("lower-case region")
+            << "A-eu-123" << false << "The Aptabase App Key A-eu-123" + invalidTail;
         QTest::newRow("self-hosted, no options") << "A-SH-123" << false << selfHostedLine;
     }
 
-    void refusedKeysLeaveTrackingOff() {
+    void refusedKeysLeaveTrackingOff()
+    {
         QFETCH(QString, key);
         QFETCH(bool, withOptions);
         QFETCH(QString, line);
@@ -58,11 +63,13 @@ private slots:
         QCOMPARE(captured.lines.size(), 1);
     }
 
-    void acceptedKeysPickTheirEndpoint() {
+    void acceptedKeysPickTheirEndpoint()
+    {
         const QString host = QStringLiteral("http://127.0.0.1:9/base");
-        const QList<QPair<QString, QString>> cases{{"A-EU-1", BuildConfig::analyticsEuHost}, // ignores the host
-                                                   {"A-US-", BuildConfig::analyticsUsHost},
-                                                   {"A-SH-1", host}};
+        const QList<QPair<QString, QString>> cases{
+            {"A-EU-1", BuildConfig::analyticsEuHost}, // ignores the host
+            {"A-US-", BuildConfig::analyticsUsHost},
+            {"A-SH-1", host}};
         for (const auto &[key, base] : cases) {
             CapturedLines captured;
             Aptabase aptabase;
@@ -73,7 +80,8 @@ private slots:
         }
     }
 
-    void trackingModeDecidesDebugFlag() {
+    void trackingModeDecidesDebugFlag()
+    {
         EnvironmentInfo env;
         env.isDebug = true;
         Aptabase keeps(env);
@@ -86,7 +94,8 @@ private slots:
         QCOMPARE(release.client()->flushInterval(), 60.0);
     }
 
-    void valuesKeepTheirExactKind() {
+    void valuesKeepTheirExactKind()
+    {
         using Kind = AnyCodableValue::Kind;
         const auto props = Aptabase::toCodableProps(
             {{"b", true}, {"i", qint64(1) << 40}, {"f", 1.5f}, {"d", 0.25}});
@@ -105,7 +114,8 @@ private slots:
         }
     }
 
-    void eventsOnTheWire() {
+    void eventsOnTheWire()
+    {
         LoopbackIngestion server;
         QVERIFY(server.listen());
         CapturedLines captured;

@@ -11,14 +11,16 @@
 class TestAptabaseWire : public QObject {
     Q_OBJECT
 private slots:
-    void osVersionHasThreeIntegers() {
+    void osVersionHasThreeIntegers()
+    {
         QCOMPARE(EnvironmentInfo::paddedVersion("12"), "12.0.0");
         QCOMPARE(EnvironmentInfo::paddedVersion("22.04"), "22.4.0");
         QCOMPARE(EnvironmentInfo::paddedVersion("1.2.3.4"), "1.2.3");
         QCOMPARE(EnvironmentInfo::paddedVersion("n/a"), "0.0.0");
     }
 
-    void deviceModelFallsBackInOrder() {
+    void deviceModelFallsBackInOrder()
+    {
         QTemporaryDir dir;
         const QString dmi = dir.filePath("product_name");
         const QString tree = dir.filePath("model");
@@ -42,7 +44,8 @@ private slots:
         qunsetenv("SIMULATOR_MODEL_IDENTIFIER");
     }
 
-    void timestampIsUtcInWholeSeconds() {
+    void timestampIsUtcInWholeSeconds()
+    {
         const QDateTime berlin(QDate(2024, 3, 10), QTime(23, 59, 59, 999),
                                QTimeZone("Europe/Berlin"));
         QCOMPARE(Event::formatTimestamp(berlin), "2024-03-10T22:59:59Z");
@@ -50,7 +53,8 @@ private slots:
         QCOMPARE(Event::formatTimestamp(offset), "2000-01-01T01:30:00Z");
     }
 
-    void eventPropsAreAlwaysAnObject() {
+    void eventPropsAreAlwaysAnObject()
+    {
         Event event;
         event.props = CodableProps();
         QCOMPARE(event.toJson()->value("props"), QJsonValue(QJsonObject()));
@@ -64,13 +68,15 @@ private slots:
         QVERIFY(!event.toJson());
     }
 
-    void debugLinesAreQuotedAndEscaped() {
+    void debugLinesAreQuotedAndEscaped()
+    {
         QCOMPARE(DebugPrint::quoted("plain ✅"), "\"plain ✅\"");
         QCOMPARE(DebugPrint::quoted("say \"hi\" it's C:\\ \n\t\r\x01"),
                  "\"say \\\"hi\\\" it\\'s C:\\\\ \\n\\t\\r\\u{1}\"");
     }
 
-    void queueKeepsOrderAcrossThreads() {
+    void queueKeepsOrderAcrossThreads()
+    {
         ConcurrentQueue<int> queue;
         queue.enqueue(1);
         queue.enqueue(QList<int>{2, 3});

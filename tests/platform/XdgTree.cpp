@@ -7,8 +7,9 @@
 
 namespace {
 
-const QList<QByteArray> managedVariables{"HOME", "XDG_CONFIG_HOME", "XDG_CONFIG_DIRS", "XDG_DATA_HOME",
-                                         "XDG_DATA_DIRS", "XDG_CURRENT_DESKTOP", "PATH", "XDG_RUNTIME_DIR"};
+const QList<QByteArray> managedVariables{"HOME",          "XDG_CONFIG_HOME", "XDG_CONFIG_DIRS",
+                                         "XDG_DATA_HOME", "XDG_DATA_DIRS",   "XDG_CURRENT_DESKTOP",
+                                         "PATH",          "XDG_RUNTIME_DIR"};
 
 QString runTool(const QString &program, const QStringList &arguments)
 {
@@ -25,19 +26,23 @@ QString runTool(const QString &program, const QStringList &arguments)
 XdgTree::XdgTree()
 {
     for (const QByteArray &name : managedVariables)
-        m_saved.insert(name, qEnvironmentVariableIsSet(name) ? std::optional(qgetenv(name)) : std::nullopt);
+        m_saved.insert(name, qEnvironmentVariableIsSet(name) ? std::optional(qgetenv(name))
+                                                             : std::nullopt);
     const QString root = m_dir.path();
-    for (const char *dir : {"home", "config", "etc/xdg", "local/share/applications", "share1/applications",
-                            "share2/applications", "bin", "runtime"})
+    for (const char *dir : {"home", "config", "etc/xdg", "local/share/applications",
+                            "share1/applications", "share2/applications", "bin", "runtime"})
         QDir().mkpath(root + u'/' + QLatin1String(dir));
-    QFile::setPermissions(root + QStringLiteral("/runtime"), QFileDevice::ReadOwner | QFileDevice::WriteOwner | QFileDevice::ExeOwner);
+    QFile::setPermissions(root + QStringLiteral("/runtime"),
+                          QFileDevice::ReadOwner | QFileDevice::WriteOwner | QFileDevice::ExeOwner);
     qputenv("HOME", QFile::encodeName(root + QStringLiteral("/home")));
     qputenv("XDG_CONFIG_HOME", QFile::encodeName(root + QStringLiteral("/config")));
     qputenv("XDG_CONFIG_DIRS", QFile::encodeName(root + QStringLiteral("/etc/xdg")));
     qputenv("XDG_DATA_HOME", QFile::encodeName(root + QStringLiteral("/local/share")));
-    qputenv("XDG_DATA_DIRS", QFile::encodeName(root + QStringLiteral("/share1:") + root + QStringLiteral("/share2")));
+    qputenv("XDG_DATA_DIRS", QFile::encodeName(root + QStringLiteral("/share1:") + root
+                                               + QStringLiteral("/share2")));
     qputenv("XDG_RUNTIME_DIR", QFile::encodeName(root + QStringLiteral("/runtime")));
-    qputenv("PATH", QFile::encodeName(root + QStringLiteral("/bin:")) + m_saved.value("PATH").value_or("/usr/bin:/bin"));
+    qputenv("PATH", QFile::encodeName(root + QStringLiteral("/bin:"))
+                        + m_saved.value("PATH").value_or("/usr/bin:/bin"));
     qunsetenv("XDG_CURRENT_DESKTOP");
 }
 
@@ -75,7 +80,8 @@ QString XdgTree::stub(const QString &name) const
 {
     const QString relative = QStringLiteral("bin/") + name;
     write(relative, "#!/bin/sh\nexit 0\n");
-    QFile::setPermissions(path(relative), QFileDevice::ReadOwner | QFileDevice::WriteOwner | QFileDevice::ExeOwner);
+    QFile::setPermissions(path(relative),
+                          QFileDevice::ReadOwner | QFileDevice::WriteOwner | QFileDevice::ExeOwner);
     return path(relative);
 }
 
@@ -83,8 +89,9 @@ QString XdgTree::entry(const QString &dir, const QString &file, const QByteArray
                        const QByteArray &extra) const
 {
     const QString program = stub(QFileInfo(file).completeBaseName());
-    QByteArray content = "[Desktop Entry]\nType=Application\nName=" + QFileInfo(file).completeBaseName().toUtf8()
-                         + "\nExec=" + program.toUtf8() + " %u\n";
+    QByteArray content =
+        "[Desktop Entry]\nType=Application\nName=" + QFileInfo(file).completeBaseName().toUtf8()
+        + "\nExec=" + program.toUtf8() + " %u\n";
     if (!mimeTypes.isEmpty())
         content += "MimeType=" + mimeTypes + "\n";
     content += extra;
@@ -95,14 +102,16 @@ QString XdgTree::entry(const QString &dir, const QString &file, const QByteArray
 
 void XdgTree::updateCaches() const
 {
-    for (const char *dir : {"local/share/applications", "share1/applications", "share2/applications"})
+    for (const char *dir :
+         {"local/share/applications", "share1/applications", "share2/applications"})
         runTool(QStringLiteral("update-desktop-database"), {path(QLatin1String(dir))});
 }
 
 XdgTree::GioAnswer XdgTree::gioMime(const QString &mimeType)
 {
     GioAnswer answer;
-    const QStringList lines = runTool(QStringLiteral("gio"), {QStringLiteral("mime"), mimeType}).split(u'\n');
+    const QStringList lines =
+        runTool(QStringLiteral("gio"), {QStringLiteral("mime"), mimeType}).split(u'\n');
     bool inRegistered = false;
     for (const QString &line : lines) {
         if (line.startsWith(QStringLiteral("Default application for"))) {
@@ -119,5 +128,7 @@ XdgTree::GioAnswer XdgTree::gioMime(const QString &mimeType)
 
 QString XdgTree::xdgMimeDefault(const QString &mimeType)
 {
-    return runTool(QStringLiteral("xdg-mime"), {QStringLiteral("query"), QStringLiteral("default"), mimeType}).trimmed();
+    return runTool(QStringLiteral("xdg-mime"),
+                   {QStringLiteral("query"), QStringLiteral("default"), mimeType})
+        .trimmed();
 }

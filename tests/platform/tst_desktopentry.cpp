@@ -9,11 +9,12 @@ class TestDesktopEntry : public QObject {
 private slots:
     void readsOnlyTheEntryGroup()
     {
-        const auto entry = DesktopEntry::parse("# comment\r\n[Desktop Entry]\r\nName[de]=Post\r\nName = Mail\\sClient \r\n"
-                                               "Type=Application\r\nNoDisplay=true\r\nHidden=false\r\n"
-                                               "Categories=Network;Email;\r\nMimeType=x-scheme-handler/mailto;;\r\n"
-                                               "[Desktop Action compose]\r\nName=Write new message\r\nExec=other\r\n"
-                                               "Type=Link\r\nHidden=true\r\n");
+        const auto entry = DesktopEntry::parse(
+            "# comment\r\n[Desktop Entry]\r\nName[de]=Post\r\nName = Mail\\sClient \r\n"
+            "Type=Application\r\nNoDisplay=true\r\nHidden=false\r\n"
+            "Categories=Network;Email;\r\nMimeType=x-scheme-handler/mailto;;\r\n"
+            "[Desktop Action compose]\r\nName=Write new message\r\nExec=other\r\n"
+            "Type=Link\r\nHidden=true\r\n");
         QVERIFY(entry.isValid());
         QCOMPARE(entry.name(), QStringLiteral("Mail Client"));
         QCOMPARE(entry.type(), QStringLiteral("Application"));
@@ -26,8 +27,10 @@ private slots:
 
     void refusesWhatGLibRefuses()
     {
-        for (const char *content : {"[Desktop Action a]\nName=x\n[Desktop Entry]\nName=y\n", "Name=x\n[Desktop Entry]\nName=y\n",
-                                    "[Desktop Entry]\nName=y\nwhat\n", "[Desktop Entry\nName=y\n", ""})
+        for (const char *content :
+             {"[Desktop Action a]\nName=x\n[Desktop Entry]\nName=y\n",
+              "Name=x\n[Desktop Entry]\nName=y\n", "[Desktop Entry]\nName=y\nwhat\n",
+              "[Desktop Entry\nName=y\n", ""})
             QVERIFY2(!DesktopEntry::parse(content).isValid(), content);
     }
 
@@ -35,13 +38,19 @@ private slots:
     {
         QTest::addColumn<QString>("exec");
         QTest::addColumn<QString>("program");
-        QTest::newRow("leading blanks") << "  prog --flag" << "prog";
-        QTest::newRow("double quotes") << "\"/opt/My App/run\" %U" << "/opt/My App/run";
+        QTest::newRow("leading blanks") << "  prog --flag"
+                                        << "prog";
+        QTest::newRow("double quotes") << "\"/opt/My App/run\" %U"
+                                       << "/opt/My App/run";
         // The line is unescaped as a key-file value first (\\ is one backslash), then split.
-        QTest::newRow("escapes in double quotes") << "\"/opt/a\\\\\"b\\\\\\\\c\" x" << "/opt/a\"b\\c";
-        QTest::newRow("single quotes") << "'/opt/it'\"'\"'s' -x" << "/opt/it's";
-        QTest::newRow("backslash") << "/opt/My\\\\ App %f" << "/opt/My App";
-        QTest::newRow("key-file blank escape") << "/opt/My\\sApp %f" << "/opt/My";
+        QTest::newRow("escapes in double quotes") << "\"/opt/a\\\\\"b\\\\\\\\c\" x"
+                                                  << "/opt/a\"b\\c";
+        QTest::newRow("single quotes") << "'/opt/it'\"'\"'s' -x"
+                                       << "/opt/it's";
+        QTest::newRow("backslash") << "/opt/My\\\\ App %f"
+                                   << "/opt/My App";
+        QTest::newRow("key-file blank escape") << "/opt/My\\sApp %f"
+                                               << "/opt/My";
         QTest::newRow("unterminated") << "\"/opt/x" << QString();
         QTest::newRow("blank") << "   " << QString();
     }
@@ -57,16 +66,20 @@ private slots:
 
     void mimeAppsListLastLineWins()
     {
-        const MimeAppsList list = MimeAppsList::parse("[Default Applications]\nt=a.desktop\nt=b.desktop;c.desktop\nu=z.desktop\n"
-                                                      "[Added Associations]\nt=a.desktop;\n[Removed Associations]\nt= d.desktop ; e.desktop;\n"
-                                                      "[MIME Cache]\nt=f.desktop;\n",
-                                                      QStringLiteral("t"));
+        const MimeAppsList list = MimeAppsList::parse(
+            "[Default Applications]\nt=a.desktop\nt=b.desktop;c.desktop\nu=z.desktop\n"
+            "[Added Associations]\nt=a.desktop;\n[Removed Associations]\nt= d.desktop ; e.desktop;\n"
+            "[MIME Cache]\nt=f.desktop;\n",
+            QStringLiteral("t"));
         QCOMPARE(list.defaults(), QStringList({"b.desktop", "c.desktop"}));
         QCOMPARE(list.added(), QStringList({"a.desktop"}));
         QCOMPARE(list.removed(), QStringList({"d.desktop", "e.desktop"}));
         QCOMPARE(list.cached(), QStringList({"f.desktop"}));
         // GLib throws away a malformed list as a whole.
-        QVERIFY(MimeAppsList::parse("[Default Applications]\nt=a.desktop\nstray line\n", QStringLiteral("t")).defaults().isEmpty());
+        QVERIFY(MimeAppsList::parse("[Default Applications]\nt=a.desktop\nstray line\n",
+                                    QStringLiteral("t"))
+                    .defaults()
+                    .isEmpty());
     }
 };
 

@@ -20,17 +20,20 @@ private:
         const auto location = db.defaultApplicationForScheme(scheme);
         return location ? idAt(*location) : QString();
     }
-    static void installWeb(const XdgTree &tree, const char *dir, std::initializer_list<const char *> names)
+    static void installWeb(const XdgTree &tree, const char *dir,
+                           std::initializer_list<const char *> names)
     {
         for (const char *name : names)
-            tree.entry(QLatin1String(dir), QLatin1String(name) + QStringLiteral(".desktop"), web.toByteArray());
+            tree.entry(QLatin1String(dir), QLatin1String(name) + QStringLiteral(".desktop"),
+                       web.toByteArray());
         tree.updateCaches();
     }
 
     QString idAt(const QString &location) const
     {
         const auto application = db.applicationAt(location);
-        return application ? application->identifier + QStringLiteral(".desktop") : QStringLiteral("<unreadable>");
+        return application ? application->identifier + QStringLiteral(".desktop")
+                           : QStringLiteral("<unreadable>");
     }
 
     // Our default and list for the scheme against `gio mime`: the same default, the default
@@ -38,7 +41,8 @@ private:
     // associate, so that is added to its set).
     void compareWithGio(const QString &scheme)
     {
-        const XdgTree::GioAnswer gio = XdgTree::gioMime(FreedesktopHandlerDatabase::mimeTypeForScheme(scheme));
+        const XdgTree::GioAnswer gio =
+            XdgTree::gioMime(FreedesktopHandlerDatabase::mimeTypeForScheme(scheme));
         QCOMPARE(defaultId(scheme), gio.defaultId);
         QStringList ids;
         for (const QString &entry : db.applicationsForScheme(scheme))
@@ -65,12 +69,15 @@ private slots:
     {
         XdgTree tree;
         installWeb(tree, "share2/applications", {"alpha", "beta", "gamma", "delta"});
-        tree.write(QStringLiteral("share1/applications/mimeapps.list"), "[Default Applications]\nx-scheme-handler/https=delta.desktop\n");
+        tree.write(QStringLiteral("share1/applications/mimeapps.list"),
+                   "[Default Applications]\nx-scheme-handler/https=delta.desktop\n");
         compareWithGio(QStringLiteral("https"));
         QCOMPARE(defaultId("https"), QStringLiteral("delta.desktop"));
 
-        tree.write(QStringLiteral("local/share/applications/mimeapps.list"), "[Default Applications]\nx-scheme-handler/https=gamma.desktop\n");
-        tree.write(QStringLiteral("etc/xdg/mimeapps.list"), "[Default Applications]\nx-scheme-handler/https=beta.desktop\n");
+        tree.write(QStringLiteral("local/share/applications/mimeapps.list"),
+                   "[Default Applications]\nx-scheme-handler/https=gamma.desktop\n");
+        tree.write(QStringLiteral("etc/xdg/mimeapps.list"),
+                   "[Default Applications]\nx-scheme-handler/https=beta.desktop\n");
         compareWithGio(QStringLiteral("https"));
         QCOMPARE(defaultId("https"), QStringLiteral("beta.desktop"));
 
@@ -81,7 +88,8 @@ private slots:
         compareWithGio(QStringLiteral("http"));
         compareWithGio(QStringLiteral("mailto"));
         QCOMPARE(defaultId("https"), QStringLiteral("alpha.desktop"));
-        QCOMPARE(XdgTree::xdgMimeDefault(QStringLiteral("x-scheme-handler/https")), QStringLiteral("alpha.desktop"));
+        QCOMPARE(XdgTree::xdgMimeDefault(QStringLiteral("x-scheme-handler/https")),
+                 QStringLiteral("alpha.desktop"));
         QCOMPARE(defaultId("mailto"), QStringLiteral("alpha.desktop"));
         // Schemes are case-insensitive.
         QCOMPARE(defaultId("HTTPS"), QStringLiteral("alpha.desktop"));
@@ -90,15 +98,18 @@ private slots:
     void higherApplicationsDirectoryOwnsTheId()
     {
         XdgTree tree;
-        tree.entry(QStringLiteral("share2/applications"), QStringLiteral("web.desktop"), web.toByteArray());
-        const QString upper = tree.entry(QStringLiteral("share1/applications"), QStringLiteral("web.desktop"), {});
+        tree.entry(QStringLiteral("share2/applications"), QStringLiteral("web.desktop"),
+                   web.toByteArray());
+        const QString upper =
+            tree.entry(QStringLiteral("share1/applications"), QStringLiteral("web.desktop"), {});
         tree.updateCaches();
         // The upper copy declares no types, so share1's cache doesn't list it, and share2's
         // cache no longer speaks for an id share1 provides.
         compareWithGio(QStringLiteral("https"));
         QCOMPARE(db.locationForIdentifier(QStringLiteral("web")), upper);
 
-        tree.write(QStringLiteral("config/mimeapps.list"), "[Default Applications]\nx-scheme-handler/https=web.desktop\n");
+        tree.write(QStringLiteral("config/mimeapps.list"),
+                   "[Default Applications]\nx-scheme-handler/https=web.desktop\n");
         compareWithGio(QStringLiteral("https"));
         QCOMPARE(db.defaultApplicationForScheme(QStringLiteral("https")), upper);
     }
@@ -107,17 +118,26 @@ private slots:
     {
         QTest::addColumn<QByteArray>("defaults");
         QTest::addColumn<QString>("expected");
-        QTest::newRow("missing file") << QByteArray("gone.desktop;plain.desktop") << "plain.desktop";
-        QTest::newRow("TryExec missing") << QByteArray("tryexec.desktop;plain.desktop") << "plain.desktop";
-        QTest::newRow("Exec program missing") << QByteArray("noprogram.desktop;plain.desktop") << "plain.desktop";
-        QTest::newRow("not an application") << QByteArray("link.desktop;plain.desktop") << "plain.desktop";
-        QTest::newRow("malformed") << QByteArray("malformed.desktop;plain.desktop") << "plain.desktop";
-        QTest::newRow("relative Exec on PATH") << QByteArray("relative.desktop;plain.desktop") << "relative.desktop";
-        QTest::newRow("no Exec at all") << QByteArray("noexec.desktop;plain.desktop") << "noexec.desktop";
-        QTest::newRow("NoDisplay") << QByteArray("nodisplay.desktop;plain.desktop") << "nodisplay.desktop";
+        QTest::newRow("missing file")
+            << QByteArray("gone.desktop;plain.desktop") << "plain.desktop";
+        QTest::newRow("TryExec missing")
+            << QByteArray("tryexec.desktop;plain.desktop") << "plain.desktop";
+        QTest::newRow("Exec program missing")
+            << QByteArray("noprogram.desktop;plain.desktop") << "plain.desktop";
+        QTest::newRow("not an application")
+            << QByteArray("link.desktop;plain.desktop") << "plain.desktop";
+        QTest::newRow("malformed")
+            << QByteArray("malformed.desktop;plain.desktop") << "plain.desktop";
+        QTest::newRow("relative Exec on PATH")
+            << QByteArray("relative.desktop;plain.desktop") << "relative.desktop";
+        QTest::newRow("no Exec at all")
+            << QByteArray("noexec.desktop;plain.desktop") << "noexec.desktop";
+        QTest::newRow("NoDisplay")
+            << QByteArray("nodisplay.desktop;plain.desktop") << "nodisplay.desktop";
         // GIO opens URLs with a Hidden entry that a list names as default.
         QTest::newRow("Hidden") << QByteArray("hidden.desktop;plain.desktop") << "hidden.desktop";
-        QTest::newRow("all unusable: first association") << QByteArray("gone.desktop;tryexec.desktop") << "nodisplay.desktop";
+        QTest::newRow("all unusable: first association")
+            << QByteArray("gone.desktop;tryexec.desktop") << "nodisplay.desktop";
     }
 
     void unusableEntriesAreSkipped()
@@ -128,18 +148,28 @@ private slots:
         const QString apps = QStringLiteral("share1/applications");
         const QByteArray types = web.toByteArray();
         tree.entry(apps, QStringLiteral("plain.desktop"), types);
-        tree.entry(apps, QStringLiteral("tryexec.desktop"), types, "TryExec=/nonexistent/tryexec\n");
-        tree.entry(apps, QStringLiteral("link.desktop"), types, "Type=Link\nURL=https://127.0.0.1/\n");
+        tree.entry(apps, QStringLiteral("tryexec.desktop"), types,
+                   "TryExec=/nonexistent/tryexec\n");
+        tree.entry(apps, QStringLiteral("link.desktop"), types,
+                   "Type=Link\nURL=https://127.0.0.1/\n");
         tree.entry(apps, QStringLiteral("nodisplay.desktop"), {}, "NoDisplay=true\n");
         tree.entry(apps, QStringLiteral("hidden.desktop"), types, "Hidden=true\n");
-        tree.write(apps + QStringLiteral("/noprogram.desktop"), "[Desktop Entry]\nType=Application\nName=x\nExec=\"/nonexistent/dir/prog\" %u\n");
-        tree.write(apps + QStringLiteral("/malformed.desktop"), "[Desktop Entry]\nType=Application\nName=x\nthis line has no equals sign\n");
-        tree.write(apps + QStringLiteral("/noexec.desktop"), "[Desktop Entry]\nType=Application\nName=x\n");
+        tree.write(
+            apps + QStringLiteral("/noprogram.desktop"),
+            "[Desktop Entry]\nType=Application\nName=x\nExec=\"/nonexistent/dir/prog\" %u\n");
+        tree.write(apps + QStringLiteral("/malformed.desktop"),
+                   "[Desktop Entry]\nType=Application\nName=x\nthis line has no equals sign\n");
+        tree.write(apps + QStringLiteral("/noexec.desktop"),
+                   "[Desktop Entry]\nType=Application\nName=x\n");
         tree.stub(QStringLiteral("relative-prog"));
-        tree.write(apps + QStringLiteral("/relative.desktop"), "[Desktop Entry]\nType=Application\nName=x\nExec=relative-prog %u\n");
+        tree.write(apps + QStringLiteral("/relative.desktop"),
+                   "[Desktop Entry]\nType=Application\nName=x\nExec=relative-prog %u\n");
         tree.updateCaches();
-        tree.write(QStringLiteral("config/mimeapps.list"), "[Default Applications]\nx-scheme-handler/https=" + defaults + "\n"
-                   "[Added Associations]\nx-scheme-handler/https=nodisplay.desktop;hidden.desktop;\n");
+        tree.write(
+            QStringLiteral("config/mimeapps.list"),
+            "[Default Applications]\nx-scheme-handler/https=" + defaults
+                + "\n"
+                  "[Added Associations]\nx-scheme-handler/https=nodisplay.desktop;hidden.desktop;\n");
 
         compareWithGio(QStringLiteral("https"));
         if (QTest::currentTestFailed())
@@ -151,8 +181,10 @@ private slots:
     {
         XdgTree tree;
         installWeb(tree, "share1/applications", {"alpha", "beta", "gamma"});
-        tree.write(QStringLiteral("config/mimeapps.list"), "[Default Applications]\nx-scheme-handler/https=alpha.desktop\n");
-        tree.write(QStringLiteral("config/xfce-mimeapps.list"), "[Default Applications]\nx-scheme-handler/https=beta.desktop\n");
+        tree.write(QStringLiteral("config/mimeapps.list"),
+                   "[Default Applications]\nx-scheme-handler/https=alpha.desktop\n");
+        tree.write(QStringLiteral("config/xfce-mimeapps.list"),
+                   "[Default Applications]\nx-scheme-handler/https=beta.desktop\n");
         tree.write(QStringLiteral("etc/xdg/gnome-mimeapps.list"),
                    "[Default Applications]\nx-scheme-handler/https=gamma.desktop\n"
                    "[Added Associations]\nx-scheme-handler/mailto=gamma.desktop;\n");
@@ -196,11 +228,14 @@ private slots:
     void entriesInSubdirectories()
     {
         XdgTree tree;
-        const QString nested = tree.entry(QStringLiteral("share1/applications/kde4"), QStringLiteral("foo.desktop"), web.toByteArray());
-        tree.entry(QStringLiteral("share1/applications"), QStringLiteral("kde4-bar.desktop"), web.toByteArray());
+        const QString nested = tree.entry(QStringLiteral("share1/applications/kde4"),
+                                          QStringLiteral("foo.desktop"), web.toByteArray());
+        tree.entry(QStringLiteral("share1/applications"), QStringLiteral("kde4-bar.desktop"),
+                   web.toByteArray());
         tree.updateCaches();
         compareWithGio(QStringLiteral("https"));
-        tree.write(QStringLiteral("config/mimeapps.list"), "[Default Applications]\nx-scheme-handler/https=kde4-foo.desktop\n");
+        tree.write(QStringLiteral("config/mimeapps.list"),
+                   "[Default Applications]\nx-scheme-handler/https=kde4-foo.desktop\n");
         compareWithGio(QStringLiteral("https"));
         QCOMPARE(db.defaultApplicationForScheme(QStringLiteral("https")), nested);
         QCOMPARE(db.locationForIdentifier(QStringLiteral("kde4-foo")), nested);
@@ -210,55 +245,70 @@ private slots:
     void realEntries()
     {
         XdgTree tree;
-        const QString fixtures = qEnvironmentVariable("VANDOREL_SOURCE_DIR") + QStringLiteral("/tests/platform/fixtures/");
+        const QString fixtures = qEnvironmentVariable("VANDOREL_SOURCE_DIR")
+                                 + QStringLiteral("/tests/platform/fixtures/");
         // The packages' entries name absolute programs; rebase them into the tree's root.
         for (const char *name : {"firefox-esr", "chromium", "thunderbird"}) {
             QFile fixture(fixtures + QLatin1String(name) + QStringLiteral(".desktop"));
             QVERIFY(fixture.open(QIODevice::ReadOnly));
             const QByteArray rebased = "Exec=" + tree.path(QStringLiteral("root/usr/")).toUtf8();
             const QByteArray content = fixture.readAll().replace("Exec=/usr/", rebased);
-            tree.write(QStringLiteral("share2/applications/") + QLatin1String(name) + QStringLiteral(".desktop"), content);
+            tree.write(QStringLiteral("share2/applications/") + QLatin1String(name)
+                           + QStringLiteral(".desktop"),
+                       content);
         }
-        for (const char *program : {"root/usr/lib/firefox-esr/firefox-esr", "root/usr/bin/chromium", "root/usr/bin/thunderbird"}) {
+        for (const char *program : {"root/usr/lib/firefox-esr/firefox-esr", "root/usr/bin/chromium",
+                                    "root/usr/bin/thunderbird"}) {
             tree.write(QLatin1String(program), "#!/bin/sh\n");
-            QFile::setPermissions(tree.path(QLatin1String(program)), QFileDevice::ReadOwner | QFileDevice::ExeOwner);
+            QFile::setPermissions(tree.path(QLatin1String(program)),
+                                  QFileDevice::ReadOwner | QFileDevice::ExeOwner);
         }
         tree.updateCaches();
         for (const char *scheme : {"http", "https", "mailto"}) {
             compareWithGio(QLatin1String(scheme));
-            QCOMPARE(defaultId(QLatin1String(scheme)), XdgTree::xdgMimeDefault(FreedesktopHandlerDatabase::mimeTypeForScheme(QLatin1String(scheme))));
+            QCOMPARE(defaultId(QLatin1String(scheme)),
+                     XdgTree::xdgMimeDefault(
+                         FreedesktopHandlerDatabase::mimeTypeForScheme(QLatin1String(scheme))));
         }
         QCOMPARE(db.applicationsForScheme(QStringLiteral("https")).size(), 2);
 
-        const auto thunderbird = db.applicationAt(*db.defaultApplicationForScheme(QStringLiteral("mailto")));
+        const auto thunderbird =
+            db.applicationAt(*db.defaultApplicationForScheme(QStringLiteral("mailto")));
         QVERIFY(thunderbird);
         QCOMPARE(thunderbird->identifier, QStringLiteral("thunderbird"));
         QCOMPARE(thunderbird->name, QStringLiteral("Thunderbird"));
         QCOMPARE(thunderbird->version, std::nullopt);
-        const auto firefox = db.applicationAt(*db.locationForIdentifier(QStringLiteral("firefox-esr")));
+        const auto firefox =
+            db.applicationAt(*db.locationForIdentifier(QStringLiteral("firefox-esr")));
         QCOMPARE(firefox->name, QStringLiteral("Firefox ESR"));
 
-        tree.write(QStringLiteral("share1/metainfo/firefox-esr.metainfo.xml"),
-                   "<?xml version=\"1.0\"?>\n<component type=\"desktop-application\">\n  <id>firefox-esr</id>\n"
-                   "  <releases>\n    <release version=\"153.7.0esr\" date=\"2025-11-01\"/>\n"
-                   "    <release version=\"153.6.0esr\"/>\n  </releases>\n</component>\n");
-        QCOMPARE(db.applicationAt(*db.locationForIdentifier(QStringLiteral("firefox-esr")))->version, QStringLiteral("153.7.0esr"));
+        tree.write(
+            QStringLiteral("share1/metainfo/firefox-esr.metainfo.xml"),
+            "<?xml version=\"1.0\"?>\n<component type=\"desktop-application\">\n  <id>firefox-esr</id>\n"
+            "  <releases>\n    <release version=\"153.7.0esr\" date=\"2025-11-01\"/>\n"
+            "    <release version=\"153.6.0esr\"/>\n  </releases>\n</component>\n");
+        QCOMPARE(
+            db.applicationAt(*db.locationForIdentifier(QStringLiteral("firefox-esr")))->version,
+            QStringLiteral("153.7.0esr"));
     }
 
     void applicationFacts()
     {
         XdgTree tree;
         const QString unnamed = tree.path(QStringLiteral("share1/applications/unnamed.desktop"));
-        tree.write(QStringLiteral("share1/applications/unnamed.desktop"),
-                   "[Desktop Entry]\nType=Application\nName[de]=Ohne\n[Desktop Action a]\nName=Action\n");
+        tree.write(
+            QStringLiteral("share1/applications/unnamed.desktop"),
+            "[Desktop Entry]\nType=Application\nName[de]=Ohne\n[Desktop Action a]\nName=Action\n");
         const auto application = db.applicationAt(unnamed);
         QVERIFY(application);
         QCOMPARE(application->identifier, QStringLiteral("unnamed"));
         QCOMPARE(application->name, std::nullopt);
         QCOMPARE(db.displayNameAtPath(unnamed), QStringLiteral("unnamed"));
-        QCOMPARE(db.applicationAt(tree.path(QStringLiteral("share1/applications/none.desktop"))), std::nullopt);
+        QCOMPARE(db.applicationAt(tree.path(QStringLiteral("share1/applications/none.desktop"))),
+                 std::nullopt);
         QCOMPARE(db.locationForIdentifier(QStringLiteral("none")), std::nullopt);
-        QCOMPARE(db.locationForIdentifier(QStringLiteral("../share1/applications/unnamed")), std::nullopt);
+        QCOMPARE(db.locationForIdentifier(QStringLiteral("../share1/applications/unnamed")),
+                 std::nullopt);
     }
 };
 

@@ -8,31 +8,36 @@ class TestMimeAppsListEditor : public QObject {
 private slots:
     void changesOnlyTheNamedLines()
     {
-        const QByteArray before = "# made by hand\n"
-                                  "\n"
-                                  "[Removed Associations]\n"
-                                  "x-scheme-handler/https=old.desktop;\n"
-                                  "\n"
-                                  "[Added Associations]\n"
-                                  "text/html=web.desktop;\n"
-                                  "x-scheme-handler/https = web.desktop;new.desktop;other.desktop;\n"
-                                  "# keep me\n"
-                                  "image/png=viewer.desktop;\n"
-                                  "\n"
-                                  "[Default Applications]\n"
-                                  "text/html=web.desktop\n"
-                                  "x-scheme-handler/https=web.desktop\n"
-                                  "x-scheme-handler/http=web.desktop\n";
+        const QByteArray before =
+            "# made by hand\n"
+            "\n"
+            "[Removed Associations]\n"
+            "x-scheme-handler/https=old.desktop;\n"
+            "\n"
+            "[Added Associations]\n"
+            "text/html=web.desktop;\n"
+            "x-scheme-handler/https = web.desktop;new.desktop;other.desktop;\n"
+            "# keep me\n"
+            "image/png=viewer.desktop;\n"
+            "\n"
+            "[Default Applications]\n"
+            "text/html=web.desktop\n"
+            "x-scheme-handler/https=web.desktop\n"
+            "x-scheme-handler/http=web.desktop\n";
         MimeAppsListEditor editor(before);
-        QCOMPARE(editor.values(QStringLiteral("Added Associations"), QStringLiteral("x-scheme-handler/https")),
+        QCOMPARE(editor.values(QStringLiteral("Added Associations"),
+                               QStringLiteral("x-scheme-handler/https")),
                  QStringList({"web.desktop", "new.desktop", "other.desktop"}));
-        editor.setValue(QStringLiteral("Default Applications"), QStringLiteral("x-scheme-handler/https"), QStringLiteral("new.desktop"));
-        editor.setValue(QStringLiteral("Added Associations"), QStringLiteral("x-scheme-handler/https"),
+        editor.setValue(QStringLiteral("Default Applications"),
+                        QStringLiteral("x-scheme-handler/https"), QStringLiteral("new.desktop"));
+        editor.setValue(QStringLiteral("Added Associations"),
+                        QStringLiteral("x-scheme-handler/https"),
                         QStringLiteral("new.desktop;web.desktop;other.desktop;"));
         QByteArray expected = before;
         expected.replace("x-scheme-handler/https = web.desktop;new.desktop;other.desktop;",
                          "x-scheme-handler/https = new.desktop;web.desktop;other.desktop;");
-        expected.replace("x-scheme-handler/https=web.desktop\n", "x-scheme-handler/https=new.desktop\n");
+        expected.replace("x-scheme-handler/https=web.desktop\n",
+                         "x-scheme-handler/https=new.desktop\n");
         QCOMPARE(editor.content(), expected);
     }
 
@@ -41,22 +46,29 @@ private slots:
         QTest::addColumn<QByteArray>("before");
         QTest::addColumn<QByteArray>("after");
         QTest::newRow("empty file") << QByteArray() << QByteArray("[Default Applications]\nk=v\n");
-        QTest::newRow("other group") << QByteArray("[Added Associations]\na=b;\n")
-                                     << QByteArray("[Added Associations]\na=b;\n\n[Default Applications]\nk=v\n");
-        QTest::newRow("no final newline") << QByteArray("[Added Associations]\na=b;")
-                                          << QByteArray("[Added Associations]\na=b;\n\n[Default Applications]\nk=v\n");
-        QTest::newRow("CRLF") << QByteArray("[Added Associations]\r\na=b;\r\n")
-                              << QByteArray("[Added Associations]\r\na=b;\r\n\r\n[Default Applications]\r\nk=v\r\n");
-        QTest::newRow("key after the group's last key") << QByteArray("[Default Applications]\na=b\n# note\n\n[Other]\nc=d\n")
-                                                        << QByteArray("[Default Applications]\na=b\nk=v\n# note\n\n[Other]\nc=d\n");
-        QTest::newRow("group at end without newline") << QByteArray("# x\r\n[Default Applications]\r\na=b")
-                                                       << QByteArray("# x\r\n[Default Applications]\r\na=b\r\nk=v\r\n");
+        QTest::newRow("other group")
+            << QByteArray("[Added Associations]\na=b;\n")
+            << QByteArray("[Added Associations]\na=b;\n\n[Default Applications]\nk=v\n");
+        QTest::newRow("no final newline")
+            << QByteArray("[Added Associations]\na=b;")
+            << QByteArray("[Added Associations]\na=b;\n\n[Default Applications]\nk=v\n");
+        QTest::newRow("CRLF")
+            << QByteArray("[Added Associations]\r\na=b;\r\n")
+            << QByteArray("[Added Associations]\r\na=b;\r\n\r\n[Default Applications]\r\nk=v\r\n");
+        QTest::newRow("key after the group's last key")
+            << QByteArray("[Default Applications]\na=b\n# note\n\n[Other]\nc=d\n")
+            << QByteArray("[Default Applications]\na=b\nk=v\n# note\n\n[Other]\nc=d\n");
+        QTest::newRow("group at end without newline")
+            << QByteArray("# x\r\n[Default Applications]\r\na=b")
+            << QByteArray("# x\r\n[Default Applications]\r\na=b\r\nk=v\r\n");
         QTest::newRow("repeated key: last rewritten, repeat dropped")
-            << QByteArray("[Default Applications]\nk=a\nx=y\nk=b\n") << QByteArray("[Default Applications]\nx=y\nk=v\n");
+            << QByteArray("[Default Applications]\nk=a\nx=y\nk=b\n")
+            << QByteArray("[Default Applications]\nx=y\nk=v\n");
         QTest::newRow("same key in another group untouched")
             << QByteArray("[Added Associations]\nk=a;\n[Default Applications]\nk=old\n")
             << QByteArray("[Added Associations]\nk=a;\n[Default Applications]\nk=v\n");
-        QTest::newRow("unchanged value") << QByteArray("[Default Applications]\r\nk=v") << QByteArray("[Default Applications]\r\nk=v");
+        QTest::newRow("unchanged value") << QByteArray("[Default Applications]\r\nk=v")
+                                         << QByteArray("[Default Applications]\r\nk=v");
     }
 
     void addsKeysAndGroups()
@@ -64,16 +76,22 @@ private slots:
         QFETCH(QByteArray, before);
         QFETCH(QByteArray, after);
         MimeAppsListEditor editor(before);
-        editor.setValue(QStringLiteral("Default Applications"), QStringLiteral("k"), QStringLiteral("v"));
+        editor.setValue(QStringLiteral("Default Applications"), QStringLiteral("k"),
+                        QStringLiteral("v"));
         QCOMPARE(editor.content(), after);
     }
 
     void removesKeys()
     {
-        MimeAppsListEditor editor("[Default Applications]\r\nk=a\r\nj=b\r\n[Added Associations]\r\nk=a;\r\n[Default Applications]\r\nk=c");
+        MimeAppsListEditor editor(
+            "[Default Applications]\r\nk=a\r\nj=b\r\n[Added Associations]\r\nk=a;\r\n[Default Applications]\r\nk=c");
         editor.removeKey(QStringLiteral("Default Applications"), QStringLiteral("k"));
-        QCOMPARE(editor.content(), QByteArray("[Default Applications]\r\nj=b\r\n[Added Associations]\r\nk=a;\r\n[Default Applications]\r\n"));
-        QVERIFY(editor.values(QStringLiteral("Default Applications"), QStringLiteral("k")).isEmpty());
+        QCOMPARE(
+            editor.content(),
+            QByteArray(
+                "[Default Applications]\r\nj=b\r\n[Added Associations]\r\nk=a;\r\n[Default Applications]\r\n"));
+        QVERIFY(
+            editor.values(QStringLiteral("Default Applications"), QStringLiteral("k")).isEmpty());
     }
 };
 

@@ -2,8 +2,8 @@
 
 #include "XdgTree.h"
 
-#include <QFile>
 #include <QDir>
+#include <QFile>
 #include <QFileInfo>
 #include <QTest>
 
@@ -13,19 +13,22 @@ class TestSetDefaultHandler : public QObject {
     Q_OBJECT
 
 private:
-    static constexpr QByteArrayView web = "x-scheme-handler/http;x-scheme-handler/https;x-scheme-handler/mailto;";
+    static constexpr QByteArrayView web =
+        "x-scheme-handler/http;x-scheme-handler/https;x-scheme-handler/mailto;";
     FreedesktopHandlerDatabase db;
 
     static void installApps(const XdgTree &tree)
     {
         for (const char *name : {"alpha", "beta", "gamma"})
-            tree.entry(QStringLiteral("share1/applications"), QLatin1String(name) + QStringLiteral(".desktop"), web.toByteArray());
+            tree.entry(QStringLiteral("share1/applications"),
+                       QLatin1String(name) + QStringLiteral(".desktop"), web.toByteArray());
         tree.updateCaches();
     }
 
     static QString gioDefault(const char *scheme)
     {
-        return XdgTree::gioMime(QStringLiteral("x-scheme-handler/") + QLatin1String(scheme)).defaultId;
+        return XdgTree::gioMime(QStringLiteral("x-scheme-handler/") + QLatin1String(scheme))
+            .defaultId;
     }
 
 private slots:
@@ -33,35 +36,40 @@ private slots:
     {
         XdgTree tree;
         installApps(tree);
-        const QByteArray before = "# Personal associations\n"
-                                  "\n"
-                                  "[Removed Associations]\n"
-                                  "text/plain=alpha.desktop;\n"
-                                  "\n"
-                                  "[Default Applications]\n"
-                                  "x-scheme-handler/mailto=gamma.desktop\n"
-                                  "# https below\n"
-                                  "x-scheme-handler/https=alpha.desktop\n"
-                                  "text/html=alpha.desktop\n"
-                                  "\n"
-                                  "[Added Associations]\n"
-                                  "x-scheme-handler/https=alpha.desktop;beta.desktop;gamma.desktop;\n"
-                                  "image/png=gamma.desktop;\n";
+        const QByteArray before =
+            "# Personal associations\n"
+            "\n"
+            "[Removed Associations]\n"
+            "text/plain=alpha.desktop;\n"
+            "\n"
+            "[Default Applications]\n"
+            "x-scheme-handler/mailto=gamma.desktop\n"
+            "# https below\n"
+            "x-scheme-handler/https=alpha.desktop\n"
+            "text/html=alpha.desktop\n"
+            "\n"
+            "[Added Associations]\n"
+            "x-scheme-handler/https=alpha.desktop;beta.desktop;gamma.desktop;\n"
+            "image/png=gamma.desktop;\n";
         tree.write(QStringLiteral("config/mimeapps.list"), before);
         QCOMPARE(gioDefault("https"), QStringLiteral("alpha.desktop"));
 
         QCOMPARE(db.setDefaultHandler(QStringLiteral("https"), QStringLiteral("beta")), 0);
         QByteArray expected = before;
-        expected.replace("x-scheme-handler/https=alpha.desktop\n", "x-scheme-handler/https=beta.desktop\n");
-        expected.replace("https=alpha.desktop;beta.desktop;gamma.desktop;", "https=beta.desktop;alpha.desktop;gamma.desktop;");
+        expected.replace("x-scheme-handler/https=alpha.desktop\n",
+                         "x-scheme-handler/https=beta.desktop\n");
+        expected.replace("https=alpha.desktop;beta.desktop;gamma.desktop;",
+                         "https=beta.desktop;alpha.desktop;gamma.desktop;");
         QCOMPARE(tree.read(QStringLiteral("config/mimeapps.list")), expected);
-        QCOMPARE(XdgTree::xdgMimeDefault(QStringLiteral("x-scheme-handler/https")), QStringLiteral("beta.desktop"));
+        QCOMPARE(XdgTree::xdgMimeDefault(QStringLiteral("x-scheme-handler/https")),
+                 QStringLiteral("beta.desktop"));
 
         // A second identical call changes nothing; a new scheme gets its lines.
         QCOMPARE(db.setDefaultHandler(QStringLiteral("https"), QStringLiteral("beta")), 0);
         QCOMPARE(tree.read(QStringLiteral("config/mimeapps.list")), expected);
         QCOMPARE(db.setDefaultHandler(QStringLiteral("http"), QStringLiteral("gamma")), 0);
-        expected.replace("text/html=alpha.desktop\n", "text/html=alpha.desktop\nx-scheme-handler/http=gamma.desktop\n");
+        expected.replace("text/html=alpha.desktop\n",
+                         "text/html=alpha.desktop\nx-scheme-handler/http=gamma.desktop\n");
         expected.append("x-scheme-handler/http=gamma.desktop;\n");
         QCOMPARE(tree.read(QStringLiteral("config/mimeapps.list")), expected);
         QCOMPARE(gioDefault("http"), QStringLiteral("gamma.desktop"));
@@ -84,15 +92,18 @@ private slots:
         XdgTree tree;
         installApps(tree);
         qputenv("XDG_CURRENT_DESKTOP", "GNOME:XFCE");
-        const QByteArray gnome = "[Default Applications]\r\nx-scheme-handler/https=alpha.desktop\r\ntext/html=alpha.desktop\r\n";
-        const QByteArray xfce = "[Default Applications]\nx-scheme-handler/https=beta.desktop;alpha.desktop\n";
+        const QByteArray gnome =
+            "[Default Applications]\r\nx-scheme-handler/https=alpha.desktop\r\ntext/html=alpha.desktop\r\n";
+        const QByteArray xfce =
+            "[Default Applications]\nx-scheme-handler/https=beta.desktop;alpha.desktop\n";
         tree.write(QStringLiteral("config/gnome-mimeapps.list"), gnome);
         tree.write(QStringLiteral("config/xfce-mimeapps.list"), xfce);
         tree.write(QStringLiteral("etc/xdg/gnome-mimeapps.list"), gnome);
         QCOMPARE(gioDefault("https"), QStringLiteral("alpha.desktop"));
 
         QCOMPARE(db.setDefaultHandler(QStringLiteral("https"), QStringLiteral("beta")), 0);
-        QCOMPARE(tree.read(QStringLiteral("config/gnome-mimeapps.list")), QByteArray("[Default Applications]\r\ntext/html=alpha.desktop\r\n"));
+        QCOMPARE(tree.read(QStringLiteral("config/gnome-mimeapps.list")),
+                 QByteArray("[Default Applications]\r\ntext/html=alpha.desktop\r\n"));
         QCOMPARE(tree.read(QStringLiteral("config/xfce-mimeapps.list")), xfce);
         QCOMPARE(tree.read(QStringLiteral("etc/xdg/gnome-mimeapps.list")), gnome);
         QVERIFY(!QFile::exists(tree.path(QStringLiteral("config/kde-mimeapps.list"))));
@@ -103,11 +114,14 @@ private slots:
     {
         XdgTree tree;
         installApps(tree);
-        tree.write(QStringLiteral("dotfiles/mimeapps.list"), "[Default Applications]\nx-scheme-handler/https=alpha.desktop\n");
-        QVERIFY(QFile::link(QStringLiteral("../dotfiles/mimeapps.list"), tree.path(QStringLiteral("config/mimeapps.list"))));
+        tree.write(QStringLiteral("dotfiles/mimeapps.list"),
+                   "[Default Applications]\nx-scheme-handler/https=alpha.desktop\n");
+        QVERIFY(QFile::link(QStringLiteral("../dotfiles/mimeapps.list"),
+                            tree.path(QStringLiteral("config/mimeapps.list"))));
         QCOMPARE(db.setDefaultHandler(QStringLiteral("https"), QStringLiteral("gamma")), 0);
         QVERIFY(QFileInfo(tree.path(QStringLiteral("config/mimeapps.list"))).isSymLink());
-        QVERIFY(tree.read(QStringLiteral("dotfiles/mimeapps.list")).contains("https=gamma.desktop\n"));
+        QVERIFY(
+            tree.read(QStringLiteral("dotfiles/mimeapps.list")).contains("https=gamma.desktop\n"));
         QCOMPARE(gioDefault("https"), QStringLiteral("gamma.desktop"));
     }
 
@@ -119,17 +133,22 @@ private slots:
         const QByteArray before = "[Default Applications]\nx-scheme-handler/https=alpha.desktop\n";
         tree.write(QStringLiteral("config/mimeapps.list"), before);
 
-        QCOMPARE(db.setDefaultHandler(QStringLiteral("https"), QStringLiteral("unknown")), int(FreedesktopHandlerDatabase::NotInstalled));
-        QCOMPARE(db.setDefaultHandler(QStringLiteral("ht tps"), QStringLiteral("beta")), int(FreedesktopHandlerDatabase::InvalidArgument));
-        QCOMPARE(db.setDefaultHandler(QStringLiteral("https"), QStringLiteral("../beta")), int(FreedesktopHandlerDatabase::InvalidArgument));
+        QCOMPARE(db.setDefaultHandler(QStringLiteral("https"), QStringLiteral("unknown")),
+                 int(FreedesktopHandlerDatabase::NotInstalled));
+        QCOMPARE(db.setDefaultHandler(QStringLiteral("ht tps"), QStringLiteral("beta")),
+                 int(FreedesktopHandlerDatabase::InvalidArgument));
+        QCOMPARE(db.setDefaultHandler(QStringLiteral("https"), QStringLiteral("../beta")),
+                 int(FreedesktopHandlerDatabase::InvalidArgument));
         QCOMPARE(tree.read(QStringLiteral("config/mimeapps.list")), before);
 
         // Owner, group and other bits; the "user" bits say what this process may do.
         const auto modeBits = QFileDevice::Permissions(0x7077);
         // As root the file could be written; its mode says it shouldn't.
-        const auto readOnly = QFileDevice::ReadOwner | QFileDevice::ReadGroup | QFileDevice::ReadOther;
+        const auto readOnly =
+            QFileDevice::ReadOwner | QFileDevice::ReadGroup | QFileDevice::ReadOther;
         QVERIFY(QFile::setPermissions(list, readOnly));
-        QCOMPARE(db.setDefaultHandler(QStringLiteral("https"), QStringLiteral("beta")), int(FreedesktopHandlerDatabase::NotWritable));
+        QCOMPARE(db.setDefaultHandler(QStringLiteral("https"), QStringLiteral("beta")),
+                 int(FreedesktopHandlerDatabase::NotWritable));
         QCOMPARE(tree.read(QStringLiteral("config/mimeapps.list")), before);
         QCOMPARE(QFile::permissions(list) & modeBits, readOnly);
 
@@ -146,7 +165,8 @@ private slots:
         installApps(tree);
         const auto writer = [this](const QString &scheme) {
             for (int i = 0; i < 30; ++i)
-                db.setDefaultHandler(scheme, i % 2 ? QStringLiteral("beta") : QStringLiteral("gamma"));
+                db.setDefaultHandler(scheme,
+                                     i % 2 ? QStringLiteral("beta") : QStringLiteral("gamma"));
         };
         std::thread first(writer, QStringLiteral("http"));
         std::thread second(writer, QStringLiteral("mailto"));

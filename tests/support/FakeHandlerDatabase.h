@@ -20,7 +20,10 @@ public:
         return location;
     }
     // Removes the application from disk; schemes may still name it.
-    void uninstall(const QString &identifier) { m_apps.remove(u"/apps/" + identifier + u".desktop"); }
+    void uninstall(const QString &identifier)
+    {
+        m_apps.remove(u"/apps/" + identifier + u".desktop");
+    }
 
     void setHandlers(const QString &scheme, const QStringList &identifiers)
     {

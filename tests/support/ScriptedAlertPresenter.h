@@ -42,7 +42,8 @@ protected:
         m_shown.append(alert);
         if (m_preset) {
             const Answer preset = *m_preset;
-            QMetaObject::invokeMethod(this, [this, preset] { answer(preset); }, Qt::QueuedConnection);
+            QMetaObject::invokeMethod(
+                this, [this, preset] { answer(preset); }, Qt::QueuedConnection);
         }
     }
 

@@ -42,6 +42,6 @@ QString ChangeLogEntry::description() const
 QString ChangeLogEntry::description(const QLocale &locale) const
 {
     const double unixMSecs = ReferenceDate::unixMSecsFrom(secondsSinceReferenceDate());
-    return u'[' + MediumDateTime::format(unixMSecs, locale) + u"] " + rawValue(type).toUpper() +
-           u": " + message;
+    return u'[' + MediumDateTime::format(unixMSecs, locale) + u"] " + rawValue(type).toUpper()
+           + u": " + message;
 }

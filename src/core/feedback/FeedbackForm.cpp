@@ -27,7 +27,8 @@ QString orUnknown(const char *text)
 // The generic description the platform gives an error of our own domain.
 QString domainErrorDescription(int code)
 {
-    return QStringLiteral("The operation couldn\u2019t be completed. (Feedback error %1.)").arg(code);
+    return QStringLiteral("The operation couldn\u2019t be completed. (Feedback error %1.)")
+        .arg(code);
 }
 
 QString bodyText(const QByteArray &body)

@@ -37,5 +37,11 @@ std::optional<FeedbackTag> FeedbackTag::fromRawValue(const QString &raw)
     return RowTable::fromRaw<FeedbackTag>(rows, &Row::raw, raw);
 }
 
-QString FeedbackTag::rawValue() const { return QLatin1StringView(rowOf(m_value).raw); }
-QString FeedbackTag::localizationKey() const { return QLatin1StringView(rowOf(m_value).key); }
+QString FeedbackTag::rawValue() const
+{
+    return QLatin1StringView(rowOf(m_value).raw);
+}
+QString FeedbackTag::localizationKey() const
+{
+    return QLatin1StringView(rowOf(m_value).key);
+}

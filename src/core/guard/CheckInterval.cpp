@@ -40,9 +40,18 @@ std::optional<CheckInterval> CheckInterval::fromRawValue(const QString &raw)
     return RowTable::fromRaw<CheckInterval>(rows, &Row::raw, raw);
 }
 
-QString CheckInterval::rawValue() const { return QLatin1StringView(rowOf(m_value).raw); }
-double CheckInterval::timeInterval() const { return rowOf(m_value).seconds; }
-QString CheckInterval::localizationKey() const { return QLatin1StringView(rowOf(m_value).key); }
+QString CheckInterval::rawValue() const
+{
+    return QLatin1StringView(rowOf(m_value).raw);
+}
+double CheckInterval::timeInterval() const
+{
+    return rowOf(m_value).seconds;
+}
+QString CheckInterval::localizationKey() const
+{
+    return QLatin1StringView(rowOf(m_value).key);
+}
 
 QString CheckInterval::displayName() const
 {

@@ -49,16 +49,17 @@ std::optional<HandlerRecord> DefaultResolver::resolve(QList<HandlerRecord> &inst
     const auto identifier = currentDefaultIdentifier();
     if (!identifier)
         return std::nullopt;
-    const auto known = std::find_if(installed.cbegin(), installed.cend(), [&](const HandlerRecord &r) {
-        return r.bundleIdentifier == *identifier;
-    });
+    const auto known =
+        std::find_if(installed.cbegin(), installed.cend(),
+                     [&](const HandlerRecord &r) { return r.bundleIdentifier == *identifier; });
     if (known != installed.cend())
         return *known;
 
     if (const auto location = m_handlers.locationForIdentifier(*identifier)) {
         if (const auto application = m_handlers.applicationAt(*location)) {
-            HandlerRecord record(application->name.value_or(m_handlers.displayNameAtPath(*location)),
-                                 *identifier, *location, application->version);
+            HandlerRecord record(
+                application->name.value_or(m_handlers.displayNameAtPath(*location)), *identifier,
+                *location, application->version);
             installed.append(record);
             sortByName(installed);
             return record;
@@ -78,7 +79,8 @@ std::optional<HandlerRecord> DefaultResolver::recordAt(const QString &location) 
 
 void DefaultResolver::sortByName(QList<HandlerRecord> &records)
 {
-    std::stable_sort(records.begin(), records.end(), [](const HandlerRecord &a, const HandlerRecord &b) {
-        return codePointLess(a.name, b.name);
-    });
+    std::stable_sort(records.begin(), records.end(),
+                     [](const HandlerRecord &a, const HandlerRecord &b) {
+                         return codePointLess(a.name, b.name);
+                     });
 }

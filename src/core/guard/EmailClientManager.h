@@ -17,7 +17,10 @@ public:
     bool isChangingEmailClient() const { return isChanging(); }
 
     std::optional<EmailClient> targetDefaultEmailClient() const { return target(); }
-    void setTargetDefaultEmailClient(const std::optional<EmailClient> &client) { setTarget(client); }
+    void setTargetDefaultEmailClient(const std::optional<EmailClient> &client)
+    {
+        setTarget(client);
+    }
     qint64 emailChangeCount() const { return changeCount(); }
     void setEmailChangeCount(qint64 count) { setChangeCount(count); }
     std::optional<QDateTime> lastEmailChange() const { return lastChange(); }

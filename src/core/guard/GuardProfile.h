@@ -39,9 +39,9 @@ struct GuardProfile {
     QStringList keywords;
 
     // Telemetry names.
-    QString telemetryType;   // "browser" / "email"
-    QString settingsPrefix;  // "browser" / "email" in "browser_check_interval"
-    QString alertType;       // "browser_changed" / "email_client_changed"
+    QString telemetryType;  // "browser" / "email"
+    QString settingsPrefix; // "browser" / "email" in "browser_check_interval"
+    QString alertType;      // "browser_changed" / "email_client_changed"
     // The analytics operations of a new target and of a change of default.
     void (*trackTargetSet)(const QString &name);
     void (*trackDefaultChanged)(const QString &from, const QString &to, bool autoFix);

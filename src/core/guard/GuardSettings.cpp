@@ -25,8 +25,14 @@ bool GuardSettings::setTarget(const std::optional<HandlerRecord> &record)
     return true;
 }
 
-bool GuardSettings::monitoringEnabled() const { return m_store.boolValue(m_profile.monitoringEnabledKey); }
-void GuardSettings::setMonitoringEnabled(bool enabled) { m_store.setBool(m_profile.monitoringEnabledKey, enabled); }
+bool GuardSettings::monitoringEnabled() const
+{
+    return m_store.boolValue(m_profile.monitoringEnabledKey);
+}
+void GuardSettings::setMonitoringEnabled(bool enabled)
+{
+    m_store.setBool(m_profile.monitoringEnabledKey, enabled);
+}
 
 CheckInterval GuardSettings::checkInterval() const
 {
@@ -50,14 +56,38 @@ void GuardSettings::setSnoozeDuration(SnoozeDuration duration)
     m_store.setString(m_profile.snoozeDurationKey, duration.rawValue());
 }
 
-bool GuardSettings::checkOnWake() const { return m_store.boolValue(m_profile.checkOnWakeKey); }
-void GuardSettings::setCheckOnWake(bool on) { m_store.setBool(m_profile.checkOnWakeKey, on); }
-bool GuardSettings::checkOnUnlock() const { return m_store.boolValue(m_profile.checkOnUnlockKey); }
-void GuardSettings::setCheckOnUnlock(bool on) { m_store.setBool(m_profile.checkOnUnlockKey, on); }
-bool GuardSettings::checkOnLogin() const { return m_store.boolValue(m_profile.checkOnLoginKey); }
-void GuardSettings::setCheckOnLogin(bool on) { m_store.setBool(m_profile.checkOnLoginKey, on); }
-qint64 GuardSettings::changeCount() const { return m_store.integerValue(m_profile.changeCountKey); }
-void GuardSettings::setChangeCount(qint64 count) { m_store.setInteger(m_profile.changeCountKey, count); }
+bool GuardSettings::checkOnWake() const
+{
+    return m_store.boolValue(m_profile.checkOnWakeKey);
+}
+void GuardSettings::setCheckOnWake(bool on)
+{
+    m_store.setBool(m_profile.checkOnWakeKey, on);
+}
+bool GuardSettings::checkOnUnlock() const
+{
+    return m_store.boolValue(m_profile.checkOnUnlockKey);
+}
+void GuardSettings::setCheckOnUnlock(bool on)
+{
+    m_store.setBool(m_profile.checkOnUnlockKey, on);
+}
+bool GuardSettings::checkOnLogin() const
+{
+    return m_store.boolValue(m_profile.checkOnLoginKey);
+}
+void GuardSettings::setCheckOnLogin(bool on)
+{
+    m_store.setBool(m_profile.checkOnLoginKey, on);
+}
+qint64 GuardSettings::changeCount() const
+{
+    return m_store.integerValue(m_profile.changeCountKey);
+}
+void GuardSettings::setChangeCount(qint64 count)
+{
+    m_store.setInteger(m_profile.changeCountKey, count);
+}
 
 std::optional<QDateTime> GuardSettings::lastChange() const
 {
@@ -72,8 +102,14 @@ void GuardSettings::setLastChange(const std::optional<QDateTime> &when)
         m_store.remove(m_profile.lastChangeKey);
 }
 
-bool GuardSettings::hasLaunchedBefore() const { return m_store.boolValue(m_profile.launchedBeforeKey); }
-void GuardSettings::markLaunched() { m_store.setBool(m_profile.launchedBeforeKey, true); }
+bool GuardSettings::hasLaunchedBefore() const
+{
+    return m_store.boolValue(m_profile.launchedBeforeKey);
+}
+void GuardSettings::markLaunched()
+{
+    m_store.setBool(m_profile.launchedBeforeKey, true);
+}
 
 bool GuardSettings::isProtected() const
 {

@@ -237,7 +237,10 @@ void HandlerGuard::handleSystemEvent(const QString &type)
     check();
 }
 
-bool HandlerGuard::wasLaunchedAtLogin() const { return m_env.launchedAtLogin; }
+bool HandlerGuard::wasLaunchedAtLogin() const
+{
+    return m_env.launchedAtLogin;
+}
 
 // --- monitoring -------------------------------------------------------------------------------
 

@@ -5,7 +5,8 @@ namespace Protection {
 ProtectionStatus statusOf(const std::optional<HandlerRecord> &current,
                           const std::optional<HandlerRecord> &target, bool isProtected)
 {
-    const bool isMismatch = current && target && current->bundleIdentifier != target->bundleIdentifier;
+    const bool isMismatch =
+        current && target && current->bundleIdentifier != target->bundleIdentifier;
     if (isMismatch && isProtected)
         return ProtectionStatus::mismatch;
     if (!isProtected)

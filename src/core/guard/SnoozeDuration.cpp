@@ -43,8 +43,14 @@ std::optional<SnoozeDuration> SnoozeDuration::fromRawValue(const QString &raw)
     return RowTable::fromRaw<SnoozeDuration>(rows, &Row::raw, raw);
 }
 
-QString SnoozeDuration::rawValue() const { return QLatin1StringView(rowOf(m_value).raw); }
-QString SnoozeDuration::localizationKey() const { return QLatin1StringView(rowOf(m_value).key); }
+QString SnoozeDuration::rawValue() const
+{
+    return QLatin1StringView(rowOf(m_value).raw);
+}
+QString SnoozeDuration::localizationKey() const
+{
+    return QLatin1StringView(rowOf(m_value).key);
+}
 
 double SnoozeDuration::timeInterval(const QDateTime &now) const
 {

@@ -41,5 +41,11 @@ std::optional<AppLanguage> AppLanguage::fromRawValue(const QString &raw)
     return RowTable::fromRaw<AppLanguage>(rows, &Row::code, raw);
 }
 
-QString AppLanguage::rawValue() const { return QLatin1StringView(rowOf(m_value).code); }
-QString AppLanguage::displayName() const { return QString::fromUtf16(rowOf(m_value).name); }
+QString AppLanguage::rawValue() const
+{
+    return QLatin1StringView(rowOf(m_value).code);
+}
+QString AppLanguage::displayName() const
+{
+    return QString::fromUtf16(rowOf(m_value).name);
+}

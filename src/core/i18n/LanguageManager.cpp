@@ -68,8 +68,8 @@ LanguageManager &LanguageManager::shared()
     LanguageManager *&manager = sharedSlot();
     if (!manager) {
         static QtTimerFactory timers;
-        manager = new LanguageManager(SettingsStore::standard(), timers,
-                                      systemPreferredLanguages());
+        manager =
+            new LanguageManager(SettingsStore::standard(), timers, systemPreferredLanguages());
     }
     return *manager;
 }
@@ -117,8 +117,8 @@ const QTranslator *LanguageManager::bundleForLanguage(const QString &code)
         Console::line(QStringLiteral("✅ Bundle found for: ") + code);
         return table;
     }
-    Console::line(QStringLiteral("⚠️ Bundle NOT found for: ") + code +
-                  QStringLiteral(", using main bundle"));
+    Console::line(QStringLiteral("⚠️ Bundle NOT found for: ") + code
+                  + QStringLiteral(", using main bundle"));
     return mainBundle();
 }
 

@@ -150,12 +150,30 @@ std::optional<QDateTime> SettingsStore::dateValue(const QString &key) const
     return std::nullopt;
 }
 
-void SettingsStore::setBool(const QString &key, bool value) { write(key, value); }
-void SettingsStore::setInteger(const QString &key, qint64 value) { write(key, value); }
-void SettingsStore::setDouble(const QString &key, double value) { write(key, value); }
-void SettingsStore::setString(const QString &key, const QString &value) { write(key, value); }
-void SettingsStore::setData(const QString &key, const QByteArray &value) { write(key, value); }
-void SettingsStore::setDate(const QString &key, const QDateTime &value) { write(key, value); }
+void SettingsStore::setBool(const QString &key, bool value)
+{
+    write(key, value);
+}
+void SettingsStore::setInteger(const QString &key, qint64 value)
+{
+    write(key, value);
+}
+void SettingsStore::setDouble(const QString &key, double value)
+{
+    write(key, value);
+}
+void SettingsStore::setString(const QString &key, const QString &value)
+{
+    write(key, value);
+}
+void SettingsStore::setData(const QString &key, const QByteArray &value)
+{
+    write(key, value);
+}
+void SettingsStore::setDate(const QString &key, const QDateTime &value)
+{
+    write(key, value);
+}
 
 void SettingsStore::remove(const QString &key)
 {

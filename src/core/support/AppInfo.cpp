@@ -11,7 +11,16 @@ QString orUnknown(const char *text)
 } // namespace
 
 namespace AppInfo {
-QString appVersion() { return orUnknown(BuildConfig::appVersion); }
-QString buildNumber() { return orUnknown(BuildConfig::buildNumber); }
-QString fullVersion() { return appVersion() + u" (" + buildNumber() + u')'; }
+QString appVersion()
+{
+    return orUnknown(BuildConfig::appVersion);
+}
+QString buildNumber()
+{
+    return orUnknown(BuildConfig::buildNumber);
+}
+QString fullVersion()
+{
+    return appVersion() + u" (" + buildNumber() + u')';
+}
 } // namespace AppInfo

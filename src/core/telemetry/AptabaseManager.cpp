@@ -69,10 +69,9 @@ void AptabaseManager::trackAppLaunched()
 
 void AptabaseManager::trackAppTerminated()
 {
-    Aptabase::shared().trackEvent(
-        QStringLiteral("app_terminated"),
-        ValueProps{{QStringLiteral("session_duration_seconds"),
-                    SessionTracker::shared().sessionDuration()}});
+    Aptabase::shared().trackEvent(QStringLiteral("app_terminated"),
+                                  ValueProps{{QStringLiteral("session_duration_seconds"),
+                                              SessionTracker::shared().sessionDuration()}});
 }
 
 void AptabaseManager::trackScreenView(const QString &screenName)
@@ -93,8 +92,7 @@ void AptabaseManager::trackBrowserSet(const QString &browser)
     trackWithSystem(QStringLiteral("browser_set"), {{QStringLiteral("browser"), browser}});
 }
 
-void AptabaseManager::trackEmailClientChanged(const QString &from, const QString &to,
-                                              bool autoFix)
+void AptabaseManager::trackEmailClientChanged(const QString &from, const QString &to, bool autoFix)
 {
     trackWithSystem(QStringLiteral("email_client_changed"),
                     {{QStringLiteral("from_client"), from},
@@ -116,9 +114,9 @@ void AptabaseManager::trackSettingsChanged(const QString &setting, const QString
 
 void AptabaseManager::trackMonitoringToggled(const QString &type, bool enabled)
 {
-    Aptabase::shared().trackEvent(
-        QStringLiteral("monitoring_toggled"),
-        ValueProps{{QStringLiteral("monitoring_type"), type}, {QStringLiteral("enabled"), enabled}});
+    Aptabase::shared().trackEvent(QStringLiteral("monitoring_toggled"),
+                                  ValueProps{{QStringLiteral("monitoring_type"), type},
+                                             {QStringLiteral("enabled"), enabled}});
 }
 
 void AptabaseManager::trackAlertShown(const QString &type)

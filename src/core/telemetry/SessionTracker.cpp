@@ -9,11 +9,7 @@ SessionTracker &SessionTracker::shared()
     return tracker;
 }
 
-SessionTracker::SessionTracker(const Clock &clock)
-    : m_clock(clock)
-    , m_startTime(clock.now())
-{
-}
+SessionTracker::SessionTracker(const Clock &clock) : m_clock(clock), m_startTime(clock.now()) {}
 
 void SessionTracker::start()
 {

@@ -3,7 +3,8 @@
 #include "core/updates/UpdateManager.h"
 #include "core/updates/UpdatePresenter.h"
 
-void AppcastUpdaterController::checkForUpdates() {
+void AppcastUpdaterController::checkForUpdates()
+{
     // The manager owns this controller and answers only while it lives.
     UpdateManager &manager = m_manager;
     manager.checkForUpdates([&manager](bool available, const std::optional<QString> &version) {

@@ -9,8 +9,7 @@ class UpdateManager;
 // manager's presenter.
 class AppcastUpdaterController final : public UpdaterController {
 public:
-    explicit AppcastUpdaterController(UpdateManager &manager)
-        : m_manager(manager) {}
+    explicit AppcastUpdaterController(UpdateManager &manager) : m_manager(manager) {}
 
     void startUpdater() override { m_started = true; }
     void checkForUpdates() override;

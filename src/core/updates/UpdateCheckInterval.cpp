@@ -22,30 +22,37 @@ constexpr std::array<Row, 5> rows = {{
     {UpdateCheckInterval::never, "never", 0, "update_interval_never"},
 }};
 
-const Row &rowOf(UpdateCheckInterval::Value value) {
+const Row &rowOf(UpdateCheckInterval::Value value)
+{
     return rows[static_cast<size_t>(value)];
 }
 
 } // namespace
 
-QList<UpdateCheckInterval> UpdateCheckInterval::allCases() {
+QList<UpdateCheckInterval> UpdateCheckInterval::allCases()
+{
     return RowTable::allCases<UpdateCheckInterval>(rows);
 }
 
-std::optional<UpdateCheckInterval> UpdateCheckInterval::fromRawValue(const QString &raw) {
+std::optional<UpdateCheckInterval> UpdateCheckInterval::fromRawValue(const QString &raw)
+{
     return RowTable::fromRaw<UpdateCheckInterval>(rows, &Row::raw, raw);
 }
 
-QString UpdateCheckInterval::rawValue() const {
+QString UpdateCheckInterval::rawValue() const
+{
     return QLatin1StringView(rowOf(m_value).raw);
 }
-double UpdateCheckInterval::timeInterval() const {
+double UpdateCheckInterval::timeInterval() const
+{
     return rowOf(m_value).seconds;
 }
-QString UpdateCheckInterval::localizationKey() const {
+QString UpdateCheckInterval::localizationKey() const
+{
     return QLatin1StringView(rowOf(m_value).key);
 }
 
-QString UpdateCheckInterval::displayName() const {
+QString UpdateCheckInterval::displayName() const
+{
     return LanguageManager::shared().localizedString(localizationKey());
 }

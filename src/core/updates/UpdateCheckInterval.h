@@ -10,8 +10,7 @@ class UpdateCheckInterval {
 public:
     enum Value { sixHours, twelveHours, daily, weekly, never };
 
-    constexpr UpdateCheckInterval(Value value)
-        : m_value(value) {}
+    constexpr UpdateCheckInterval(Value value) : m_value(value) {}
     constexpr operator Value() const { return m_value; }
 
     static QList<UpdateCheckInterval> allCases();

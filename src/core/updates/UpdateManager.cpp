@@ -24,31 +24,36 @@
 
 namespace {
 
-UpdateManager *&sharedSlot() {
+UpdateManager *&sharedSlot()
+{
     static UpdateManager *manager = nullptr;
     return manager;
 }
 
 const QStringList brewCaskTokens = {QStringLiteral("vandorel"), QStringLiteral("van-dorel")};
 
-QString key(const char *name) {
+QString key(const char *name)
+{
     return QString::fromLatin1(name);
 }
 
 } // namespace
 
-UpdateManager &UpdateManager::shared() {
+UpdateManager &UpdateManager::shared()
+{
     UpdateManager *&manager = sharedSlot();
     if (!manager)
         manager = new UpdateManager(defaultOptions());
     return *manager;
 }
 
-void UpdateManager::setShared(UpdateManager *manager) {
+void UpdateManager::setShared(UpdateManager *manager)
+{
     sharedSlot() = manager;
 }
 
-UpdateManager::Options UpdateManager::defaultOptions() {
+UpdateManager::Options UpdateManager::defaultOptions()
+{
     static SystemClock clock;
     static QtTimerFactory timers;
     Options options;
@@ -63,18 +68,21 @@ UpdateManager::Options UpdateManager::defaultOptions() {
 }
 
 UpdateManager::UpdateManager(Options options, QObject *parent)
-    : QObject(parent)
-    , m_options(std::move(options)) {}
+    : QObject(parent), m_options(std::move(options))
+{
+}
 
 UpdateManager::~UpdateManager() = default;
 
-bool UpdateManager::isBrewInstall() {
+bool UpdateManager::isBrewInstall()
+{
     if (!m_isBrewInstall)
         m_isBrewInstall = detectBrewInstall(m_options.installPath, m_options.brewPrefixes);
     return *m_isBrewInstall;
 }
 
-bool UpdateManager::detectBrewInstall(const QString &installPath, const QStringList &brewPrefixes) {
+bool UpdateManager::detectBrewInstall(const QString &installPath, const QStringList &brewPrefixes)
+{
     if (installPath.contains(QLatin1StringView("Caskroom"))) {
         Console::line(QStringLiteral("🍺 Homebrew install detected via symlink resolution"));
         return true;
@@ -92,7 +100,8 @@ bool UpdateManager::detectBrewInstall(const QString &installPath, const QStringL
     return false;
 }
 
-UpdaterController *UpdateManager::sparkleUpdaterController() {
+UpdaterController *UpdateManager::sparkleUpdaterController()
+{
     if (!m_controllerMade) {
         m_controllerMade = true;
         if (!isBrewInstall()) {
@@ -104,11 +113,13 @@ UpdaterController *UpdateManager::sparkleUpdaterController() {
     return m_sparkleUpdaterController.get();
 }
 
-void UpdateManager::setPresenter(std::shared_ptr<UpdatePresenter> presenter) {
+void UpdateManager::setPresenter(std::shared_ptr<UpdatePresenter> presenter)
+{
     m_presenter = std::move(presenter);
 }
 
-bool UpdateManager::checkForUpdatesWithSparkle() {
+bool UpdateManager::checkForUpdatesWithSparkle()
+{
     if (isBrewInstall() || !sparkleUpdaterController())
         return false;
     if (m_isSparkleCheckInProgress) {
@@ -129,7 +140,8 @@ bool UpdateManager::checkForUpdatesWithSparkle() {
     return true;
 }
 
-void UpdateManager::scheduleSparkleReset() {
+void UpdateManager::scheduleSparkleReset()
+{
     if (m_sparkleResetWorkItem) {
         m_sparkleResetWorkItem->stop();
         m_sparkleResetWorkItem->deleteLater();
@@ -143,7 +155,8 @@ void UpdateManager::scheduleSparkleReset() {
     workItem->start(std::chrono::seconds(sparkleResetSeconds), false);
 }
 
-void UpdateManager::checkAutomaticallyAndPresentIfAvailable() {
+void UpdateManager::checkAutomaticallyAndPresentIfAvailable()
+{
     if (isBrewInstall())
         return;
     checkForUpdates([this](bool available, const std::optional<QString> &version) {
@@ -159,22 +172,25 @@ void UpdateManager::checkAutomaticallyAndPresentIfAvailable() {
         if (!checkForUpdatesWithSparkle())
             return;
         snoozeAutoReminder(*version, autoReminderSnoozeHours);
-        Console::line(u"🔕 Auto update reminder snoozed for " +
-                      QString::number(static_cast<qint64>(autoReminderSnoozeHours)) +
-                      u"h (version " + *version + u')');
+        Console::line(u"🔕 Auto update reminder snoozed for "
+                      + QString::number(static_cast<qint64>(autoReminderSnoozeHours))
+                      + u"h (version " + *version + u')');
     });
 }
 
-double UpdateManager::nowSeconds() const {
+double UpdateManager::nowSeconds() const
+{
     return static_cast<double>(m_options.clock->now().toMSecsSinceEpoch()) / 1000.0;
 }
 
-void UpdateManager::snoozeAutoReminder(const QString &version, double hours) {
+void UpdateManager::snoozeAutoReminder(const QString &version, double hours)
+{
     m_options.settings->setDouble(key(updateSnoozeUntilKey), nowSeconds() + hours * 3600.0);
     m_options.settings->setString(key(updateSnoozeVersionKey), version);
 }
 
-bool UpdateManager::isSnoozed(const QString &version) const {
+bool UpdateManager::isSnoozed(const QString &version) const
+{
     const std::optional<QString> snoozedVersion =
         m_options.settings->stringValue(key(updateSnoozeVersionKey));
     if (!snoozedVersion || *snoozedVersion != version)
@@ -185,26 +201,30 @@ bool UpdateManager::isSnoozed(const QString &version) const {
     return nowSeconds() < until;
 }
 
-std::optional<double> UpdateManager::remainingSnoozeSeconds(const QString &version) const {
+std::optional<double> UpdateManager::remainingSnoozeSeconds(const QString &version) const
+{
     if (!isSnoozed(version))
         return std::nullopt;
     const double until = m_options.settings->doubleValue(key(updateSnoozeUntilKey));
     return std::max(0.0, until - nowSeconds());
 }
 
-void UpdateManager::resetAutoReminderSnooze() {
+void UpdateManager::resetAutoReminderSnooze()
+{
     m_options.settings->remove(key(updateSnoozeUntilKey));
     m_options.settings->remove(key(updateSnoozeVersionKey));
     Console::line(QStringLiteral("🔄 Update reminder snooze reset"));
 }
 
-QNetworkAccessManager &UpdateManager::network() {
+QNetworkAccessManager &UpdateManager::network()
+{
     if (!m_network)
         m_network = new QNetworkAccessManager(this);
     return *m_network;
 }
 
-void UpdateManager::checkForUpdates(Completion completion) {
+void UpdateManager::checkForUpdates(Completion completion)
+{
     if (m_updateTask)
         m_updateTask->abort();
     QNetworkReply *reply = network().get(QNetworkRequest(m_options.appcastURL));
@@ -225,8 +245,8 @@ void UpdateManager::checkForUpdates(Completion completion) {
             });
 }
 
-void UpdateManager::finishCheck(QNetworkReply *reply, bool oversized,
-                                const Completion &completion) {
+void UpdateManager::finishCheck(QNetworkReply *reply, bool oversized, const Completion &completion)
+{
     FetchResult result;
     result.oversized = oversized;
     const QNetworkReply::NetworkError error = reply->error();
@@ -248,7 +268,8 @@ void UpdateManager::finishCheck(QNetworkReply *reply, bool oversized,
 }
 
 std::optional<UpdateManager::Answer> UpdateManager::answerFor(const FetchResult &result,
-                                                              const QString &currentVersion) {
+                                                              const QString &currentVersion)
+{
     if (result.cancelled)
         return std::nullopt;
     if (result.transportError) {

@@ -7,11 +7,13 @@
 
 namespace {
 
-QString key(const char *name) {
+QString key(const char *name)
+{
     return QString::fromLatin1(name);
 }
 
-QString boolText(bool value) {
+QString boolText(bool value)
+{
     return value ? QStringLiteral("true") : QStringLiteral("false");
 }
 
@@ -19,12 +21,13 @@ QString boolText(bool value) {
 
 UpdateScheduler::UpdateScheduler(SettingsStore &settings, TimerFactory &timers,
                                  std::function<void()> automaticCheck, QObject *parent)
-    : QObject(parent)
-    , m_settings(settings)
-    , m_timers(timers)
-    , m_automaticCheck(std::move(automaticCheck)) {}
+    : QObject(parent), m_settings(settings), m_timers(timers),
+      m_automaticCheck(std::move(automaticCheck))
+{
+}
 
-UpdateScheduler::Config UpdateScheduler::currentSchedulerConfig() const {
+UpdateScheduler::Config UpdateScheduler::currentSchedulerConfig() const
+{
     // A plain read would give false for an absent key, and the default is on.
     const QString startupKey = key(checkForUpdatesAtStartupKey);
     Config config;
@@ -34,7 +37,8 @@ UpdateScheduler::Config UpdateScheduler::currentSchedulerConfig() const {
     return config;
 }
 
-void UpdateScheduler::configureUpdateScheduler() {
+void UpdateScheduler::configureUpdateScheduler()
+{
     cancelStartupCheck();
     invalidateUpdateTimer();
 
@@ -72,11 +76,12 @@ void UpdateScheduler::configureUpdateScheduler() {
         m_automaticCheck();
     });
     m_updateTimer->start(period, true);
-    Console::line(u"✅ Interval timer scheduled every " + QString::number(period.count()) + u"s (" +
-                  raw + u')');
+    Console::line(u"✅ Interval timer scheduled every " + QString::number(period.count()) + u"s ("
+                  + raw + u')');
 }
 
-void UpdateScheduler::userDefaultsDidChange() {
+void UpdateScheduler::userDefaultsDidChange()
+{
     const Config config = currentSchedulerConfig();
     if (m_lastSchedulerConfig && *m_lastSchedulerConfig == config)
         return;
@@ -85,12 +90,14 @@ void UpdateScheduler::userDefaultsDidChange() {
     configureUpdateScheduler();
 }
 
-void UpdateScheduler::stop() {
+void UpdateScheduler::stop()
+{
     cancelStartupCheck();
     invalidateUpdateTimer();
 }
 
-void UpdateScheduler::cancelStartupCheck() {
+void UpdateScheduler::cancelStartupCheck()
+{
     if (m_startupCheckWorkItem) {
         m_startupCheckWorkItem->stop();
         m_startupCheckWorkItem->deleteLater();
@@ -98,7 +105,8 @@ void UpdateScheduler::cancelStartupCheck() {
     m_startupCheckWorkItem = nullptr;
 }
 
-void UpdateScheduler::invalidateUpdateTimer() {
+void UpdateScheduler::invalidateUpdateTimer()
+{
     if (m_updateTimer) {
         m_updateTimer->stop();
         m_updateTimer->deleteLater();

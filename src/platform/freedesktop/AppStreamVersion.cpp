@@ -3,7 +3,8 @@
 #include <QFile>
 #include <QXmlStreamReader>
 
-std::optional<QString> AppStreamVersion::find(const QString &identifier, const QStringList &dataDirs)
+std::optional<QString> AppStreamVersion::find(const QString &identifier,
+                                              const QStringList &dataDirs)
 {
     if (identifier.isEmpty() || identifier.contains(u'/'))
         return std::nullopt;

@@ -47,7 +47,8 @@ bool DesktopFileLocator::isShadowed(const QString &desktopId, qsizetype index) c
     return false;
 }
 
-std::optional<DesktopFileLocator::Resolved> DesktopFileLocator::resolve(const QString &desktopId) const
+std::optional<DesktopFileLocator::Resolved>
+DesktopFileLocator::resolve(const QString &desktopId) const
 {
     for (const QString &dir : m_dirs) {
         const QString file = fileInDirectory(dir, desktopId);

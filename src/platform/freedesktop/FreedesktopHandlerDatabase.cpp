@@ -27,7 +27,8 @@ DesktopFileLocator currentLocator()
 
 MimeAssociations associationsFor(const QString &mimeType)
 {
-    return MimeAssociations::load(mimeType, XdgDirectories::mimeappsPlaces(), XdgDirectories::currentDesktops());
+    return MimeAssociations::load(mimeType, XdgDirectories::mimeappsPlaces(),
+                                  XdgDirectories::currentDesktops());
 }
 
 QString stripSuffix(QString desktopId)
@@ -40,10 +41,12 @@ QString stripSuffix(QString desktopId)
 bool isIdentifier(const QString &identifier)
 {
     return !identifier.isEmpty() && !identifier.contains(u'/') && !identifier.startsWith(u'.')
-           && !identifier.contains(u';') && !identifier.contains(u'\n') && !identifier.contains(u'\r');
+           && !identifier.contains(u';') && !identifier.contains(u'\n')
+           && !identifier.contains(u'\r');
 }
 
-QByteArray setDefaultIn(const QByteArray &content, const QString &mimeType, const QString &desktopId)
+QByteArray setDefaultIn(const QByteArray &content, const QString &mimeType,
+                        const QString &desktopId)
 {
     MimeAppsListEditor editor(content);
     editor.setValue(defaultGroup, mimeType, desktopId);
@@ -54,7 +57,8 @@ QByteArray setDefaultIn(const QByteArray &content, const QString &mimeType, cons
     return editor.content();
 }
 
-QByteArray dropContraryDefault(const QByteArray &content, const QString &mimeType, const QString &desktopId)
+QByteArray dropContraryDefault(const QByteArray &content, const QString &mimeType,
+                               const QString &desktopId)
 {
     MimeAppsListEditor editor(content);
     const QStringList defaults = editor.values(defaultGroup, mimeType);
@@ -70,7 +74,8 @@ QString FreedesktopHandlerDatabase::mimeTypeForScheme(const QString &scheme)
     if (scheme.isEmpty() || !(scheme.front().isLetter() && scheme.front().unicode() < 128))
         return {};
     for (const QChar c : scheme) {
-        const bool allowed = c.unicode() < 128 && (c.isLetterOrNumber() || c == u'+' || c == u'-' || c == u'.');
+        const bool allowed =
+            c.unicode() < 128 && (c.isLetterOrNumber() || c == u'+' || c == u'-' || c == u'.');
         if (!allowed)
             return {};
     }
@@ -111,7 +116,8 @@ QStringList FreedesktopHandlerDatabase::applicationsForScheme(const QString &sch
 // GIO's answer, which is what opens links on the desktop. xdg-mime 1.1.3 differs: it takes a
 // listed default whose file merely exists (a missing TryExec or a malformed entry still wins
 // there), and its fallback to mimeinfo.cache ignores [Removed Associations].
-std::optional<QString> FreedesktopHandlerDatabase::defaultApplicationForScheme(const QString &scheme) const
+std::optional<QString>
+FreedesktopHandlerDatabase::defaultApplicationForScheme(const QString &scheme) const
 {
     const QString mimeType = mimeTypeForScheme(scheme);
     if (mimeType.isEmpty())
@@ -129,7 +135,8 @@ std::optional<QString> FreedesktopHandlerDatabase::defaultApplicationForScheme(c
     return std::nullopt;
 }
 
-std::optional<QString> FreedesktopHandlerDatabase::locationForIdentifier(const QString &identifier) const
+std::optional<QString>
+FreedesktopHandlerDatabase::locationForIdentifier(const QString &identifier) const
 {
     if (!isIdentifier(identifier))
         return std::nullopt;
@@ -140,7 +147,8 @@ std::optional<QString> FreedesktopHandlerDatabase::locationForIdentifier(const Q
     return resolved->path;
 }
 
-std::optional<HandlerDatabase::Application> FreedesktopHandlerDatabase::applicationAt(const QString &location) const
+std::optional<HandlerDatabase::Application>
+FreedesktopHandlerDatabase::applicationAt(const QString &location) const
 {
     const auto entry = DesktopEntry::read(location);
     if (!entry || !entry->isValid())
@@ -149,7 +157,8 @@ std::optional<HandlerDatabase::Application> FreedesktopHandlerDatabase::applicat
     if (desktopId.isEmpty())
         desktopId = QFileInfo(location).fileName();
     const QString identifier = stripSuffix(desktopId);
-    return Application{identifier, entry->name(), AppStreamVersion::find(identifier, XdgDirectories::allDataDirs())};
+    return Application{identifier, entry->name(),
+                       AppStreamVersion::find(identifier, XdgDirectories::allDataDirs())};
 }
 
 QString FreedesktopHandlerDatabase::displayNameAtPath(const QString &path) const
@@ -171,9 +180,9 @@ int FreedesktopHandlerDatabase::setDefaultHandler(const QString &scheme, const Q
 
     const QMutexLocker locker(&writeLock);
     const QString configHome = XdgDirectories::configHome();
-    const int status = MimeAppsListWriter::update(configHome + QStringLiteral("/mimeapps.list"), [&](const QByteArray &content) {
-        return setDefaultIn(content, mimeType, desktopId);
-    });
+    const int status = MimeAppsListWriter::update(
+        configHome + QStringLiteral("/mimeapps.list"),
+        [&](const QByteArray &content) { return setDefaultIn(content, mimeType, desktopId); });
     if (status != Success)
         return status;
     // The desktop-specific lists of the same directory are read first; a default there for
@@ -181,7 +190,10 @@ int FreedesktopHandlerDatabase::setDefaultHandler(const QString &scheme, const Q
     for (const QString &desktop : XdgDirectories::currentDesktops()) {
         const QString path = configHome + u'/' + desktop + QStringLiteral("-mimeapps.list");
         const int shadowStatus = MimeAppsListWriter::update(
-            path, [&](const QByteArray &content) { return dropContraryDefault(content, mimeType, desktopId); },
+            path,
+            [&](const QByteArray &content) {
+                return dropContraryDefault(content, mimeType, desktopId);
+            },
             false);
         if (shadowStatus != Success)
             return shadowStatus;

@@ -11,10 +11,10 @@ public:
     // Non-zero results of setDefaultHandler (errno values, so they read well in a log).
     enum Status {
         Success = 0,
-        NotInstalled = 2,      // ENOENT: no launchable entry with that id
-        NotWritable = 13,      // EACCES: the list's mode has no owner write bit
-        WriteFailed = 5,       // EIO
-        InvalidArgument = 22,  // EINVAL: not a URL scheme, or not a desktop file id
+        NotInstalled = 2,        // ENOENT: no launchable entry with that id
+        NotWritable = 13,        // EACCES: the list's mode has no owner write bit
+        WriteFailed = 5,         // EIO
+        InvalidArgument = 22,    // EINVAL: not a URL scheme, or not a desktop file id
         ReadOnlyFileSystem = 30, // EROFS
     };
 

@@ -33,8 +33,8 @@ void FreedesktopSystemEvents::watchSleep()
 {
     QDBusConnection bus = QDBusConnection::systemBus();
     if (bus.isConnected())
-        bus.connect(login1Service, login1Path, login1Manager, QStringLiteral("PrepareForSleep"), this,
-                    SLOT(prepareForSleep(bool)));
+        bus.connect(login1Service, login1Path, login1Manager, QStringLiteral("PrepareForSleep"),
+                    this, SLOT(prepareForSleep(bool)));
 }
 
 bool FreedesktopSystemEvents::watchScreenSaver()

@@ -18,10 +18,7 @@ QByteArrayView trimmed(QByteArrayView text)
 
 } // namespace
 
-KeyFileScanner::KeyFileScanner(QByteArrayView content)
-    : m_content(content)
-{
-}
+KeyFileScanner::KeyFileScanner(QByteArrayView content) : m_content(content) {}
 
 bool KeyFileScanner::next()
 {
@@ -84,11 +81,21 @@ QString KeyFileScanner::unescape(QByteArrayView raw)
         }
         const char escaped = raw[++i];
         switch (escaped) {
-        case 's': out.append(' '); break;
-        case 'n': out.append('\n'); break;
-        case 't': out.append('\t'); break;
-        case 'r': out.append('\r'); break;
-        default: out.append(escaped); break;
+        case 's':
+            out.append(' ');
+            break;
+        case 'n':
+            out.append('\n');
+            break;
+        case 't':
+            out.append('\t');
+            break;
+        case 'r':
+            out.append('\r');
+            break;
+        default:
+            out.append(escaped);
+            break;
         }
     }
     return QString::fromUtf8(out);

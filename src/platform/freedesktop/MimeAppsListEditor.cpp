@@ -66,7 +66,8 @@ void MimeAppsListEditor::setValue(const QString &group, const QString &key, cons
     if (!lines.isEmpty()) {
         Line &line = m_lines[lines.takeLast()];
         qsizetype valueStart = line.text.indexOf('=') + 1;
-        while (valueStart < line.text.size() && (line.text[valueStart] == ' ' || line.text[valueStart] == '\t'))
+        while (valueStart < line.text.size()
+               && (line.text[valueStart] == ' ' || line.text[valueStart] == '\t'))
             ++valueStart;
         line.text = line.text.first(valueStart) + bytes;
         for (auto it = lines.crbegin(); it != lines.crend(); ++it)

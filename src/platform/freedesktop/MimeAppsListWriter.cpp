@@ -30,7 +30,8 @@ bool onReadOnlyFileSystem(const QString &dir)
 
 } // namespace
 
-int MimeAppsListWriter::update(const QString &path, const std::function<QByteArray(const QByteArray &)> &edit,
+int MimeAppsListWriter::update(const QString &path,
+                               const std::function<QByteArray(const QByteArray &)> &edit,
                                bool createIfMissing)
 {
     const QString target = writeTarget(path);

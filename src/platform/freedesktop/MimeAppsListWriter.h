@@ -13,13 +13,14 @@ public:
     enum Status {
         Written = 0,
         Unchanged = 0,
-        NotWritable = 13, // EACCES
+        NotWritable = 13,        // EACCES
         ReadOnlyFileSystem = 30, // EROFS
-        Failed = 5, // EIO
+        Failed = 5,              // EIO
     };
 
     // Reads the file (missing reads as empty), applies `edit` to its bytes and stores the
     // result if it differs. With `createIfMissing` false a missing file stays missing.
-    static int update(const QString &path, const std::function<QByteArray(const QByteArray &)> &edit,
+    static int update(const QString &path,
+                      const std::function<QByteArray(const QByteArray &)> &edit,
                       bool createIfMissing = true);
 };

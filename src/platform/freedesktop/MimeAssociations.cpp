@@ -16,7 +16,8 @@ void expand(QStringList &list, const QStringList &toAdd, const QStringList &blac
 
 } // namespace
 
-MimeAssociations MimeAssociations::load(const QString &mimeType, const QList<XdgDirectories::Place> &places,
+MimeAssociations MimeAssociations::load(const QString &mimeType,
+                                        const QList<XdgDirectories::Place> &places,
                                         const QStringList &desktops)
 {
     MimeAssociations result;
@@ -25,17 +26,21 @@ MimeAssociations MimeAssociations::load(const QString &mimeType, const QList<Xdg
         PlaceLists lists;
         // A desktop-specific list may only name defaults; GLib ignores its other groups.
         for (const QString &desktop : desktops)
-            expand(lists.defaults, MimeAppsList::read(place.path + u'/' + desktop + u"-mimeapps.list", mimeType).defaults());
+            expand(lists.defaults,
+                   MimeAppsList::read(place.path + u'/' + desktop + u"-mimeapps.list", mimeType)
+                       .defaults());
         const MimeAppsList main = MimeAppsList::read(place.path + u"/mimeapps.list", mimeType);
         expand(lists.additions, main.added());
         expand(lists.removals, main.removed(), lists.additions);
         expand(lists.defaults, main.defaults());
         if (place.holdsApplications) {
             // defaults.list is an old GLib-only file that still counts for defaults.
-            expand(lists.defaults, MimeAppsList::read(place.path + u"/defaults.list", mimeType).defaults());
+            expand(lists.defaults,
+                   MimeAppsList::read(place.path + u"/defaults.list", mimeType).defaults());
             // GIO lets the cache add back what this directory's own list removes; a
             // removal only acts on the directories below.
-            expand(lists.additions, MimeAppsList::read(place.path + u"/mimeinfo.cache", mimeType).cached());
+            expand(lists.additions,
+                   MimeAppsList::read(place.path + u"/mimeinfo.cache", mimeType).cached());
             lists.applicationsIndex = applicationsIndex++;
         }
         result.m_places.append(lists);
@@ -59,13 +64,15 @@ QStringList MimeAssociations::associated(const DesktopFileLocator &locator) cons
     return hits;
 }
 
-void MimeAssociations::collect(const DesktopFileLocator &locator, QStringList &hits, QStringList &blacklist) const
+void MimeAssociations::collect(const DesktopFileLocator &locator, QStringList &hits,
+                               QStringList &blacklist) const
 {
     for (const PlaceLists &lists : m_places) {
         // An application directory speaks only for ids that no higher directory provides.
         const auto counts = [&](const QString &id) {
             return !blacklist.contains(id) && !hits.contains(id)
-                   && (lists.applicationsIndex < 0 || !locator.isShadowed(id, lists.applicationsIndex));
+                   && (lists.applicationsIndex < 0
+                       || !locator.isShadowed(id, lists.applicationsIndex));
         };
         for (const QString &id : lists.additions) {
             if (counts(id))

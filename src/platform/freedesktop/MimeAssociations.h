@@ -13,7 +13,8 @@ class DesktopFileLocator;
 // defaults.list and mimeinfo.cache. Desktop file ids are kept with their ".desktop" suffix.
 class MimeAssociations {
 public:
-    static MimeAssociations load(const QString &mimeType, const QList<XdgDirectories::Place> &places,
+    static MimeAssociations load(const QString &mimeType,
+                                 const QList<XdgDirectories::Place> &places,
                                  const QStringList &desktops);
 
     // Every [Default Applications] entry of every place, in order. GLib tries these and then
@@ -32,7 +33,8 @@ private:
         qsizetype applicationsIndex = -1; // index among the applications dirs; -1 for config
     };
 
-    void collect(const DesktopFileLocator &locator, QStringList &hits, QStringList &blacklist) const;
+    void collect(const DesktopFileLocator &locator, QStringList &hits,
+                 QStringList &blacklist) const;
 
     QList<PlaceLists> m_places;
 };

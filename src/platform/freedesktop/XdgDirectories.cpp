@@ -44,7 +44,8 @@ QString XdgDirectories::dataHome()
 
 QStringList XdgDirectories::dataDirs()
 {
-    return dirList("XDG_DATA_DIRS", {QStringLiteral("/usr/local/share"), QStringLiteral("/usr/share")});
+    return dirList("XDG_DATA_DIRS",
+                   {QStringLiteral("/usr/local/share"), QStringLiteral("/usr/share")});
 }
 
 QStringList XdgDirectories::allDataDirs()

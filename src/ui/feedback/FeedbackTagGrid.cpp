@@ -48,7 +48,8 @@ QSize FeedbackTagGrid::sizeHint() const
 
 QSize FeedbackTagGrid::minimumSizeHint() const
 {
-    return {FeedbackTagButton::minimumItemWidth, heightForWidth(FeedbackTagButton::minimumItemWidth)};
+    return {FeedbackTagButton::minimumItemWidth,
+            heightForWidth(FeedbackTagButton::minimumItemWidth)};
 }
 
 void FeedbackTagGrid::resizeEvent(QResizeEvent *event)

@@ -14,7 +14,8 @@ constexpr double radius = 10.0;
 
 } // namespace
 
-FeedbackTextBox::FeedbackTextBox(QWidget *parent) : QWidget(parent), m_edit(new QPlainTextEdit(this))
+FeedbackTextBox::FeedbackTextBox(QWidget *parent)
+    : QWidget(parent), m_edit(new QPlainTextEdit(this))
 {
     m_edit->setFrameShape(QFrame::NoFrame);
     m_edit->setTabChangesFocus(true);
@@ -45,12 +46,14 @@ void FeedbackTextBox::paintEvent(QPaintEvent *)
 {
     QPainter painter(this);
     painter.setRenderHint(QPainter::Antialiasing);
-    const QRectF box = QRectF(rect()).adjusted(shadowMargin, shadowMargin, -shadowMargin, -shadowMargin);
+    const QRectF box =
+        QRectF(rect()).adjusted(shadowMargin, shadowMargin, -shadowMargin, -shadowMargin);
     painter.setBrush(Qt::NoBrush);
     for (int step = shadowMargin; step >= 1; --step) {
         QColor shadow(0, 0, 0, 6 + 3 * (shadowMargin - step));
         painter.setPen(QPen(shadow, 1.0));
-        painter.drawRoundedRect(box.adjusted(-step, -step + 1, step, step + 1), radius + step, radius + step);
+        painter.drawRoundedRect(box.adjusted(-step, -step + 1, step, step + 1), radius + step,
+                                radius + step);
     }
     const QPalette &colours = palette();
     QColor outline = colours.color(QPalette::WindowText);

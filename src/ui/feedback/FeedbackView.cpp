@@ -58,7 +58,8 @@ FeedbackView::FeedbackView(QWidget *parent)
 {
 }
 
-FeedbackView::FeedbackView(FeedbackForm::Options options, LanguageManager &language, QWidget *parent)
+FeedbackView::FeedbackView(FeedbackForm::Options options, LanguageManager &language,
+                           QWidget *parent)
     : QWidget(parent), m_language(language), m_form([&] {
           options.language = &language;
           return options;
@@ -98,13 +99,13 @@ FeedbackView::FeedbackView(FeedbackForm::Options options, LanguageManager &langu
     m_spinner.setDuration(900);
     m_spinner.setLoopCount(-1);
     connect(&m_spinner, &QVariantAnimation::valueChanged, this, [this](const QVariant &angle) {
-        m_sendButton->setIcon(spinnerIcon(angle.toDouble(),
-                                          palette().color(QPalette::PlaceholderText),
-                                          devicePixelRatioF()));
+        m_sendButton->setIcon(spinnerIcon(
+            angle.toDouble(), palette().color(QPalette::PlaceholderText), devicePixelRatioF()));
     });
 
     connect(&m_form, &FeedbackForm::changed, this, &FeedbackView::showForm);
-    connect(&m_language, &LanguageManager::currentLanguageChanged, this, &FeedbackView::retranslate);
+    connect(&m_language, &LanguageManager::currentLanguageChanged, this,
+            &FeedbackView::retranslate);
     connect(&m_language, &LanguageManager::bundleChanged, this, &FeedbackView::retranslate);
     retranslate();
     applyColours();
@@ -177,7 +178,8 @@ QWidget *FeedbackView::makeCategoryBlock()
     auto *grid = new FeedbackTagGrid;
     for (const FeedbackTag tag : FeedbackTag::allCases()) {
         auto *button = new FeedbackTagButton;
-        connect(button, &QAbstractButton::clicked, this, [this, tag] { m_form.setSelectedTag(tag); });
+        connect(button, &QAbstractButton::clicked, this,
+                [this, tag] { m_form.setSelectedTag(tag); });
         m_tagButtons.append(button);
         grid->addButton(button);
     }
@@ -243,7 +245,8 @@ void FeedbackView::showForm()
         m_tagButtons.at(i)->setSelected(int(m_form.selectedTag()) == i);
     if (!m_editing && textEdit()->toPlainText() != m_form.feedbackText())
         textEdit()->setPlainText(m_form.feedbackText());
-    m_counter->setText(QStringLiteral("%1/%2").arg(m_form.characterCount()).arg(FeedbackForm::maxCharacters));
+    m_counter->setText(
+        QStringLiteral("%1/%2").arg(m_form.characterCount()).arg(FeedbackForm::maxCharacters));
     applyColours();
     showSendButton();
     presentPendingAlert();
@@ -254,8 +257,8 @@ void FeedbackView::showSendButton()
     m_sendButton->setEnabled(m_form.canSend());
     m_sendButton->setText(text(m_form.isSending() ? "feedback_sending" : "feedback_send"));
     if (m_form.isSending() && m_spinner.state() != QAbstractAnimation::Running) {
-        m_sendButton->setIcon(spinnerIcon(0.0, palette().color(QPalette::PlaceholderText),
-                                          devicePixelRatioF()));
+        m_sendButton->setIcon(
+            spinnerIcon(0.0, palette().color(QPalette::PlaceholderText), devicePixelRatioF()));
         m_spinner.start();
     } else if (!m_form.isSending() && m_spinner.state() == QAbstractAnimation::Running) {
         m_spinner.stop();
@@ -298,7 +301,8 @@ void FeedbackView::presentPendingAlert()
 FeedbackView::AlertPresenter FeedbackView::messageBoxPresenter()
 {
     return [](FeedbackView &page, const Alert &alert, std::function<void()> dismissed) {
-        const auto icon = alert.kind == AlertKind::success ? QMessageBox::Information : QMessageBox::Warning;
+        const auto icon =
+            alert.kind == AlertKind::success ? QMessageBox::Information : QMessageBox::Warning;
         auto *box = new QMessageBox(icon, alert.title, alert.message, QMessageBox::NoButton, &page);
         box->setTextFormat(Qt::PlainText);
         box->addButton(alert.buttonText, QMessageBox::AcceptRole);
@@ -357,15 +361,16 @@ void FeedbackView::applyColours()
     disabledText.setAlphaF(0.35f);
     QColor disabledFill = colours.color(QPalette::WindowText);
     disabledFill.setAlphaF(0.08f);
-    const QString style = QStringLiteral(
-        "QPushButton { background: %1; color: %2; border: none; border-radius: 6px;"
-        " padding: 6px 18px; }"
-        " QPushButton:pressed { background: %3; }"
-        " QPushButton:disabled { background: %4; color: %5; }");
-    const QString next = style.arg(colours.color(QPalette::Highlight).name(QColor::HexArgb),
-                                   colours.color(QPalette::HighlightedText).name(QColor::HexArgb),
-                                   pressed.name(QColor::HexArgb), disabledFill.name(QColor::HexArgb),
-                                   disabledText.name(QColor::HexArgb));
+    const QString style =
+        QStringLiteral("QPushButton { background: %1; color: %2; border: none; border-radius: 6px;"
+                       " padding: 6px 18px; }"
+                       " QPushButton:pressed { background: %3; }"
+                       " QPushButton:disabled { background: %4; color: %5; }");
+    const QString next =
+        style.arg(colours.color(QPalette::Highlight).name(QColor::HexArgb),
+                  colours.color(QPalette::HighlightedText).name(QColor::HexArgb),
+                  pressed.name(QColor::HexArgb), disabledFill.name(QColor::HexArgb),
+                  disabledText.name(QColor::HexArgb));
     if (m_sendButton->styleSheet() != next)
         m_sendButton->setStyleSheet(next);
 }

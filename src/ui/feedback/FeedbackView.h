@@ -31,14 +31,15 @@ public:
         QString buttonText;
     };
     // Shows `alert` over `page` without blocking, and calls `dismissed` once it is answered.
-    using AlertPresenter =
-        std::function<void(FeedbackView &page, const Alert &alert, std::function<void()> dismissed)>;
+    using AlertPresenter = std::function<void(FeedbackView &page, const Alert &alert,
+                                              std::function<void()> dismissed)>;
 
     static constexpr int contentMaxWidth = 520;
     static constexpr const char *screenName = "settings_feedback";
 
     explicit FeedbackView(QWidget *parent = nullptr);
-    FeedbackView(FeedbackForm::Options options, LanguageManager &language, QWidget *parent = nullptr);
+    FeedbackView(FeedbackForm::Options options, LanguageManager &language,
+                 QWidget *parent = nullptr);
 
     FeedbackForm &form() { return m_form; }
     bool canSend() const { return m_form.canSend(); }

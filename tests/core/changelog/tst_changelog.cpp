@@ -95,10 +95,12 @@ private Q_SLOTS:
         QVERIFY(upperUuid.match(newest["id"].toString()).hasMatch());
         QVERIFY(upperUuid.match(older["id"].toString()).hasMatch());
         QVERIFY(older["id"] != newest["id"]);
-        QCOMPARE(newest, QJsonObject({{"id", newest["id"]}, {"type", "email"},
+        QCOMPARE(newest, QJsonObject({{"id", newest["id"]},
+                                      {"type", "email"},
                                       {"message", emailChange},
                                       {"timestamp", piDaySeconds + 0.25}}));
-        QCOMPARE(older, QJsonObject({{"id", older["id"]}, {"type", "browser"},
+        QCOMPARE(older, QJsonObject({{"id", older["id"]},
+                                     {"type", "browser"},
                                      {"message", browserChange},
                                      {"timestamp", piDaySeconds}}));
 
@@ -162,9 +164,9 @@ private Q_SLOTS:
     void readingSortsByTimestampKeepingTiesInStoredOrder()
     {
         Rig rig;
-        rig.seed(blobOf({record(10, "ten"), record(30, "thirty a"), record(20, "twenty"),
-                         record(30, "thirty b"), record(30, "thirty c"),
-                         record(-5, "before 2001")}));
+        rig.seed(
+            blobOf({record(10, "ten"), record(30, "thirty a"), record(20, "twenty"),
+                    record(30, "thirty b"), record(30, "thirty c"), record(-5, "before 2001")}));
         QCOMPARE(messages(rig.log.getAllLogs()),
                  QStringList({"thirty a", "thirty b", "thirty c", "twenty", "ten", "before 2001"}));
     }

@@ -150,8 +150,8 @@ private Q_SLOTS:
         if (succeeds) {
             QCOMPARE(rig.state(), "|coolApp|4|success");
             QCOMPARE(FeedbackLog::take(),
-                     QStringList({rig.sendingLine(), u"info: Feedback sent successfully: status=" +
-                                                         QString::number(status)}));
+                     QStringList({rig.sendingLine(), u"info: Feedback sent successfully: status="
+                                                         + QString::number(status)}));
             QCOMPARE(rig.telemetry.flushedEvents(),
                      (Events{{"feedback_sent",
                               {{"tag", "idea"}, {"mood", expected["mood"]}, {"rating", 2}}}}));

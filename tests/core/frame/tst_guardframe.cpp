@@ -41,12 +41,12 @@ private Q_SLOTS:
         QSettings file(world.settings.path(), QSettings::IniFormat);
         QStringList keys = file.allKeys();
         keys.sort();
-        QCOMPARE(keys, QStringList({"checkInterval", "checkOnLogin", "checkOnUnlock", "checkOnWake",
-                                    "emailCheckInterval", "emailCheckOnLogin", "emailCheckOnUnlock",
-                                    "emailCheckOnWake", "emailMonitoringEnabled",
-                                    "emailSnoozeDuration", "hasLaunchedBefore",
-                                    "hasLaunchedBeforeEmail", "monitoringEnabled",
-                                    "snoozeDuration"}));
+        QCOMPARE(keys,
+                 QStringList({"checkInterval", "checkOnLogin", "checkOnUnlock", "checkOnWake",
+                              "emailCheckInterval", "emailCheckOnLogin", "emailCheckOnUnlock",
+                              "emailCheckOnWake", "emailMonitoringEnabled", "emailSnoozeDuration",
+                              "hasLaunchedBefore", "hasLaunchedBeforeEmail", "monitoringEnabled",
+                              "snoozeDuration"}));
         QCOMPARE(file.value("checkInterval").toString(), QString("10min"));
         QCOMPARE(file.value("emailSnoozeDuration").toString(), QString("1hour"));
 
@@ -83,7 +83,8 @@ private Q_SLOTS:
         store.setString("monitoringEnabled", "sure");
         store.setString("lastBrowserChange", "yesterday");
         for (int pass = 0; pass < 2; ++pass) {
-            BrowserManager browser(world.environment(pass == 0 ? &store : &world.settings.reopen()));
+            BrowserManager browser(
+                world.environment(pass == 0 ? &store : &world.settings.reopen()));
             QVERIFY(!browser.targetDefaultBrowser());
             QCOMPARE(browser.checkInterval(), CheckInterval::tenMinutes);
             QCOMPARE(browser.snoozeDuration(), SnoozeDuration::oneHour);
@@ -99,7 +100,8 @@ private Q_SLOTS:
     {
         World world;
         BrowserManager browser(world.environment());
-        const Browser firefox("Firefox", "firefox-esr", QString("/usr/share/applications/firefox-esr.desktop"));
+        const Browser firefox("Firefox", "firefox-esr",
+                              QString("/usr/share/applications/firefox-esr.desktop"));
         browser.setTargetDefaultBrowser(firefox);
         QCOMPARE(world.settings.reopen().dataValue("targetDefaultBrowser"), firefox.toJson());
         BrowserManager restarted(world.environment());
@@ -163,7 +165,8 @@ private Q_SLOTS:
         BrowserManager browser(world.environment(nullptr, true));
         QCOMPARE(browser.currentDefaultBrowser()->name, QString("Firefox ESR"));
         const QStringList lines = console.lines();
-        QVERIFY(lines.indexOf("✨ First launch - defaults set") < lines.indexOf("🚀 Launched at login"));
+        QVERIFY(lines.indexOf("✨ First launch - defaults set")
+                < lines.indexOf("🚀 Launched at login"));
         QVERIFY(lines.indexOf("📊 Total: 0") < lines.indexOf("🚀 Launched at login"));
         QCOMPARE(world.timers.activeWithInterval(std::chrono::milliseconds(2000)).size(), 1);
 

@@ -38,8 +38,10 @@ struct GuardWorld {
     {
         language = std::make_unique<LanguageManager>(settings.store(), timers, QStringList{"en"});
         LanguageManager::setShared(language.get());
-        for (const auto &[id, name] : {std::pair("firefox-esr", "Firefox"), {"chromium", "Chromium"},
-                                       {"epiphany", "Web"}, {"thunderbird", "Thunderbird"},
+        for (const auto &[id, name] : {std::pair("firefox-esr", "Firefox"),
+                                       {"chromium", "Chromium"},
+                                       {"epiphany", "Web"},
+                                       {"thunderbird", "Thunderbird"},
                                        {"evolution", "Evolution"}})
             handlers.install(id, QString(name));
         browsersDefault("firefox-esr");
@@ -62,10 +64,7 @@ struct GuardWorld {
         handlers.setHandlers("https", order);
         handlers.setHandlers("http", order);
     }
-    void mailDefault(const QString &identifier)
-    {
-        handlers.setHandlers("mailto", {identifier});
-    }
+    void mailDefault(const QString &identifier) { handlers.setHandlers("mailto", {identifier}); }
 
     int tick() { return timers.fire(tenMinutes); }
     void poll(int count = 1)
@@ -81,7 +80,8 @@ struct GuardWorld {
     // A change's system calls run on a worker; its hand-back starts the polling timer.
     [[nodiscard]] bool waitForPolling(int startsBefore = 0)
     {
-        return QTest::qWaitFor([&] { return pollingStarts() > startsBefore && pollingTimer(); }, 5000);
+        return QTest::qWaitFor([&] { return pollingStarts() > startsBefore && pollingTimer(); },
+                               5000);
     }
     int pollingStarts() const
     {

@@ -56,7 +56,8 @@ private Q_SLOTS:
         world.tick();
         QVERIFY(!browser.isSnoozed());
         QVERIFY(!browser.snoozeUntil());
-        QCOMPARE(console.lines(), QStringList({"📝 Log: Browser changed from Chromium to Chromium"}));
+        QCOMPARE(console.lines(),
+                 QStringList({"📝 Log: Browser changed from Chromium to Chromium"}));
         QCOMPARE(browser.browserChangeCount(), 2);
         GuardWorld::settle();
         QCOMPARE(world.alerts.shown().size(), 2);
@@ -95,8 +96,9 @@ private Q_SLOTS:
         // Lapsed: the events check again while the snooze still shows.
         world.clock.set(until);
         Q_EMIT world.events.screenUnlocked();
-        QCOMPARE(console.lines(), QStringList({"🔍 Checking after unlock",
-                                               "📝 Log: Browser changed from Chromium to Chromium"}));
+        QCOMPARE(console.lines(),
+                 QStringList({"🔍 Checking after unlock",
+                              "📝 Log: Browser changed from Chromium to Chromium"}));
         QVERIFY(browser.isSnoozed());
         QCOMPARE(browser.snoozeUntil(), until);
         QCOMPARE(browser.browserChangeCount(), 2);

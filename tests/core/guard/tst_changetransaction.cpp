@@ -28,16 +28,14 @@ private Q_SLOTS:
         world.poll(2);
         world.handlers.setHandlers("https", {"firefox-esr", "chromium"});
         world.poll();
-        QCOMPARE(console.lines(), QStringList({"🔘 setDefaultBrowser called for: Firefox",
-                                               "   ✅ isChangingBrowser = true",
-                                               "   HTTP: 0, HTTPS: -54",
-                                               "🔄 Starting polling",
-                                               "📡 Poll 1: chromium vs firefox-esr",
-                                               "📡 Poll 2: chromium vs firefox-esr",
-                                               "📡 Poll 3: firefox-esr vs firefox-esr",
-                                               "✅ Match!",
-                                               "📝 Log: Browser changed from Chromium to Firefox",
-                                               "✅ Browser set to Firefox"}));
+        QCOMPARE(
+            console.lines(),
+            QStringList({"🔘 setDefaultBrowser called for: Firefox", "   ✅ isChangingBrowser = true",
+                         "   HTTP: 0, HTTPS: -54", "🔄 Starting polling",
+                         "📡 Poll 1: chromium vs firefox-esr", "📡 Poll 2: chromium vs firefox-esr",
+                         "📡 Poll 3: firefox-esr vs firefox-esr", "✅ Match!",
+                         "📝 Log: Browser changed from Chromium to Firefox",
+                         "✅ Browser set to Firefox"}));
         QVERIFY(!browser.isChangingBrowser());
         QCOMPARE(browser.browserChangeCount(), 5);
         QCOMPARE(browser.lastBrowserChange(), world.clock.now());
@@ -81,7 +79,8 @@ private Q_SLOTS:
         world.handlers.setHandlers("http", {});
         world.poll();
         QCOMPARE(console.lines().last(), QString("⏱️ Timeout"));
-        QCOMPARE(console.lines().at(console.lines().size() - 2), QString("📡 Poll 60: none vs firefox-esr"));
+        QCOMPARE(console.lines().at(console.lines().size() - 2),
+                 QString("📡 Poll 60: none vs firefox-esr"));
         QVERIFY(!browser.isChangingBrowser());
         QVERIFY(!world.pollingTimer());
         QCOMPARE(browser.browserChangeCount(), 0);
@@ -138,8 +137,9 @@ private Q_SLOTS:
         QVERIFY(world.waitForPolling(starts));
         QCOMPARE(world.timers.activeWithInterval(GuardWorld::pollPeriod).size(), 1);
         world.poll();
-        QCOMPARE(console.lines().mid(2), QStringList({"   HTTP: -54, HTTPS: -54", "🔄 Starting polling",
-                                                      "📡 Poll 1: chromium vs epiphany"}));
+        QCOMPARE(console.lines().mid(2),
+                 QStringList({"   HTTP: -54, HTTPS: -54", "🔄 Starting polling",
+                              "📡 Poll 1: chromium vs epiphany"}));
         // The previous value is taken afresh: a change from elsewhere meanwhile is its start.
         world.browsersDefault("epiphany");
         world.poll();
@@ -160,14 +160,13 @@ private Q_SLOTS:
         QVERIFY(email.isChangingEmailClient());
         QVERIFY(world.waitForPolling());
         world.poll();
-        QCOMPARE(console.lines(), QStringList({"📧 setDefaultEmailClient called for: Thunderbird",
-                                               "   ✅ isChangingEmailClient = true",
-                                               "   mailto: 0",
-                                               "🔄 Starting email polling",
-                                               "📡 Email Poll 1: thunderbird vs thunderbird",
-                                               "✅ Email Match!",
-                                               "📝 Log: Email client changed from Evolution to Thunderbird",
-                                               "✅ Email client set to Thunderbird"}));
+        QCOMPARE(console.lines(),
+                 QStringList({"📧 setDefaultEmailClient called for: Thunderbird",
+                              "   ✅ isChangingEmailClient = true", "   mailto: 0",
+                              "🔄 Starting email polling",
+                              "📡 Email Poll 1: thunderbird vs thunderbird", "✅ Email Match!",
+                              "📝 Log: Email client changed from Evolution to Thunderbird",
+                              "✅ Email client set to Thunderbird"}));
         QCOMPARE(world.handlers.setCalls(), QStringList({"mailto=thunderbird"}));
         QCOMPARE(email.emailChangeCount(), 1);
     }

@@ -27,7 +27,8 @@ private Q_SLOTS:
         QCOMPARE(browser.lastBrowserChange(), world.clock.now());
         QCOMPARE(browser.currentDefaultBrowser()->bundleIdentifier, QString("chromium"));
         QCOMPARE(world.log.getAllLogs().size(), 1);
-        QCOMPARE(world.log.getAllLogs().first().message, QString("Browser changed from Firefox to Chromium"));
+        QCOMPARE(world.log.getAllLogs().first().message,
+                 QString("Browser changed from Firefox to Chromium"));
 
         // The alert goes on screen on a later turn, not inside the check.
         QVERIFY(world.alerts.shown().isEmpty());
@@ -35,22 +36,24 @@ private Q_SLOTS:
         QCOMPARE(world.alerts.shown().size(), 1);
         const AlertPresenter::Alert alert = world.alerts.shown().first();
         QCOMPARE(alert.title, QString("Default browser changed"));
-        QCOMPARE(alert.text, QString("Another program has made Chromium your default browser. "
-                                     "Your target browser is Firefox. Do you want to change it back?"));
+        QCOMPARE(alert.text,
+                 QString("Another program has made Chromium your default browser. "
+                         "Your target browser is Firefox. Do you want to change it back?"));
         QCOMPARE(alert.firstButton, QString("Change back"));
         QCOMPARE(alert.secondButton, QString("Keep Chromium for now"));
         QCOMPARE(alert.symbolName, QString("exclamationmark.shield"));
 
         // A default that stays away counts again, logged from itself to itself.
         browser.checkDefaultBrowser();
-        QCOMPARE(console.lines(), QStringList({"📝 Log: Browser changed from Chromium to Chromium"}));
+        QCOMPARE(console.lines(),
+                 QStringList({"📝 Log: Browser changed from Chromium to Chromium"}));
         QCOMPARE(browser.browserChangeCount(), 2);
         QCOMPARE(world.alerts.pendingCount(), 1);
     }
 
     void checksThatCountNothing()
     {
-        {   // No target: nothing counted however the default changes.
+        { // No target: nothing counted however the default changes.
             GuardWorld world;
             BrowserManager browser(world.environment());
             ConsoleCapture console;
@@ -65,7 +68,7 @@ private Q_SLOTS:
             GuardWorld::settle();
             QVERIFY(world.alerts.shown().isEmpty());
         }
-        {   // Monitoring off: a check only resolves.
+        { // Monitoring off: a check only resolves.
             GuardWorld world;
             BrowserManager browser(world.environment());
             browser.setTargetDefaultBrowser(firefox());
@@ -78,7 +81,7 @@ private Q_SLOTS:
             GuardWorld::settle();
             QVERIFY(world.alerts.shown().isEmpty());
         }
-        {   // No previous default: the alert comes, but nothing is logged or counted.
+        { // No previous default: the alert comes, but nothing is logged or counted.
             GuardWorld world;
             world.handlers.setHandlers("https", {});
             world.handlers.setHandlers("http", {});
@@ -139,7 +142,8 @@ private Q_SLOTS:
         world.mailDefault("evolution");
         ConsoleCapture console;
         QCOMPARE(world.tick(), 2);
-        QCOMPARE(console.lines(), QStringList({"📝 Log: Email client changed from Thunderbird to Evolution"}));
+        QCOMPARE(console.lines(),
+                 QStringList({"📝 Log: Email client changed from Thunderbird to Evolution"}));
         QCOMPARE(email.emailChangeCount(), 1);
         QCOMPARE(email.lastEmailChange(), world.clock.now());
         QCOMPARE(browser.browserChangeCount(), 0);

@@ -124,8 +124,8 @@ private Q_SLOTS:
             for (const CatalogueEntry &entry : StringCatalogue::entries()) {
                 const QString source = english.value(entry.key);
                 const QString text = texts.value(entry.key);
-                if (source.isEmpty() || source.size() > 25 || source.contains(sentenceEnd) ||
-                    text.isEmpty())
+                if (source.isEmpty() || source.size() > 25 || source.contains(sentenceEnd)
+                    || text.isEmpty())
                     continue;
                 const double ratio = double(text.size()) / double(source.size());
                 const QString line =

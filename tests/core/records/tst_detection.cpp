@@ -37,9 +37,9 @@ private Q_SLOTS:
     {
         FakeHandlerDatabase db;
         db.install("org.chromium.Chromium", QString("Chromium Web Browser"));
-        db.install("org.mozilla.firefox", QString("Nightly build"));  // no keyword, still known
-        db.install("epiphany", QString("Web"));                       // registered, rejected
-        db.install("falkon", QString("Falkon Browser"));              // registered, accepted
+        db.install("org.mozilla.firefox", QString("Nightly build")); // no keyword, still known
+        db.install("epiphany", QString("Web"));                      // registered, rejected
+        db.install("falkon", QString("Falkon Browser"));             // registered, accepted
         db.setHandlers("http", {"falkon", "org.chromium.Chromium", "epiphany"});
         db.setHandlers("https", {"falkon", "other"});
         const HandlerDetector detector(GuardProfile::browser(), db);

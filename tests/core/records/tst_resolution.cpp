@@ -34,7 +34,8 @@ private Q_SLOTS:
         db.install("vivaldi", QString("Vivaldi"), QString("6.1"));
         db.setHandlers("https", {"vivaldi"});
         const DefaultResolver resolver(GuardProfile::browser(), db);
-        QList<HandlerRecord> installed{HandlerRecord("alpha", "alpha"), HandlerRecord("Zeta", "zeta")};
+        QList<HandlerRecord> installed{HandlerRecord("alpha", "alpha"),
+                                       HandlerRecord("Zeta", "zeta")};
 
         const auto first = resolver.resolve(installed);
         QVERIFY(first);
@@ -65,7 +66,8 @@ private Q_SLOTS:
 
         db.install("org.example.Web", std::nullopt);
         db.setHandlers("https", {"org.example.Web"});
-        QCOMPARE(DefaultResolver(GuardProfile::browser(), db).resolve(installed)->name, QString("org.example.Web"));
+        QCOMPARE(DefaultResolver(GuardProfile::browser(), db).resolve(installed)->name,
+                 QString("org.example.Web"));
     }
 
     void sortingIsByCodePointsNotUtf16Units()

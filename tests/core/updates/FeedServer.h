@@ -15,19 +15,22 @@ public:
         QByteArray body;
     };
 
-    FeedServer() {
+    FeedServer()
+    {
         m_server.listen(QHostAddress::LocalHost);
         QObject::connect(&m_server, &QTcpServer::newConnection, &m_server, [this] { accept(); });
     }
 
     quint16 port() const { return m_server.serverPort(); }
-    QString url(const QString &path = QStringLiteral("/app/Vandorel/appcast.xml")) const {
+    QString url(const QString &path = QStringLiteral("/app/Vandorel/appcast.xml")) const
+    {
         return QStringLiteral("http://127.0.0.1:%1%2").arg(port()).arg(path);
     }
 
     void serve(Page page) { m_page = std::move(page); }
     void hold() { m_holding = true; }
-    void release() {
+    void release()
+    {
         m_holding = false;
         const QList<QPointer<QTcpSocket>> held = std::exchange(m_held, {});
         for (const QPointer<QTcpSocket> &socket : held) {
@@ -39,7 +42,8 @@ public:
     QList<QByteArray> requestLines;
 
 private:
-    void accept() {
+    void accept()
+    {
         while (QTcpSocket *socket = m_server.nextPendingConnection()) {
             QObject::connect(socket, &QTcpSocket::readyRead, socket,
                              [this, socket] { read(socket); });
@@ -47,7 +51,8 @@ private:
         }
     }
 
-    void read(QTcpSocket *socket) {
+    void read(QTcpSocket *socket)
+    {
         QByteArray &buffer = m_buffers[socket];
         buffer += socket->readAll();
         const qsizetype end = buffer.indexOf("\r\n\r\n");
@@ -61,11 +66,12 @@ private:
             answer(socket);
     }
 
-    void answer(QTcpSocket *socket) {
+    void answer(QTcpSocket *socket)
+    {
         socket->write("HTTP/1.1 " + QByteArray::number(m_page.status)
                       + " Status\r\nContent-Type: text/xml\r\nContent-Length: "
-                      + QByteArray::number(m_page.body.size())
-                      + "\r\nConnection: close\r\n\r\n" + m_page.body);
+                      + QByteArray::number(m_page.body.size()) + "\r\nConnection: close\r\n\r\n"
+                      + m_page.body);
         socket->disconnectFromHost();
     }
 

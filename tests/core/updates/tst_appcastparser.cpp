@@ -13,8 +13,8 @@ QString describe(const Result &result)
 {
     if (!result)
         return QStringLiteral("none");
-    const QString link = result->releaseNotesURL ? u'[' + *result->releaseNotesURL + u']'
-                                                 : QStringLiteral("none");
+    const QString link =
+        result->releaseNotesURL ? u'[' + *result->releaseNotesURL + u']' : QStringLiteral("none");
     return u"version [" + result->version + u"] link " + link;
 }
 
@@ -117,9 +117,9 @@ private slots:
             << found("");
 
         // The last item is the oldest release; its delta enclosure has the final word.
-        QTest::newRow("history")
-            << fixture("history-newest-first.xml")
-            << found("139.0.1", "http://127.0.0.1:8765/app/Vandorel/notes/1.3.9.html");
+        QTest::newRow("history") << fixture("history-newest-first.xml")
+                                 << found("139.0.1",
+                                          "http://127.0.0.1:8765/app/Vandorel/notes/1.3.9.html");
         QTest::newRow("single") << fixture("single-release.xml")
                                 << found("2.1", "http://127.0.0.1:8765/notes?v=2.1&lang=en");
         QTest::newRow("link then newline")
@@ -142,8 +142,8 @@ private slots:
         QTest::newRow("UTF-32LE") << encode(QStringConverter::Utf32LE, false) << expected;
         QTest::newRow("declared windows-1252")
             << QByteArray("<?xml version='1.0' encoding='windows-1252'?>"
-                          "<rss><item>" + link("http://h/n\xe9\x80") + enclosure("1.0")
-                          + "</item></rss>")
+                          "<rss><item>"
+                          + link("http://h/n\xe9\x80") + enclosure("1.0") + "</item></rss>")
             << expected;
 
         // The input limits never touch a realistic feed.
@@ -186,9 +186,8 @@ private slots:
             laughs += "<!ENTITY a" + QByteArray::number(i) + " '"
                       + QByteArray("&a" + QByteArray::number(i - 1) + ";").repeated(10) + "'>";
         QTest::newRow("nested entities") << laughs + "]><rss><item>&a12;</item></rss>";
-        QTest::newRow("doctype behind UTF-7")
-            << QByteArray("<?xml version='1.0' encoding='UTF-7'?>"
-                          "+ADw-!DOCTYPE r +AFs-+AF0-+AD4-<r/>");
+        QTest::newRow("doctype behind UTF-7") << QByteArray("<?xml version='1.0' encoding='UTF-7'?>"
+                                                            "+ADw-!DOCTYPE r +AFs-+AF0-+AD4-<r/>");
         QTest::newRow("attributes of one tag") << "<rss>" + manyAttributes(400000) + "</rss>";
         QTest::newRow("deep nesting") << nested(1000000, "<item/>");
         QTest::newRow("one level too deep") << nested(AppcastParser::kMaxDepth, "<item/>");

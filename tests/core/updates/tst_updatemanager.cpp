@@ -17,10 +17,11 @@ using namespace std::chrono_literals;
 
 namespace {
 
-QByteArray feed(const QByteArray &version) {
+QByteArray feed(const QByteArray &version)
+{
     return "<?xml version=\"1.0\"?><rss xmlns:sparkle=\"urn:x\"><channel><item>"
-           "<enclosure url=\"http://127.0.0.1/v.tar\" sparkle:version=\"" +
-           version + "\"/></item></channel></rss>\n";
+           "<enclosure url=\"http://127.0.0.1/v.tar\" sparkle:version=\""
+           + version + "\"/></item></channel></rss>\n";
 }
 
 struct RecordingController final : UpdaterController {
@@ -31,7 +32,8 @@ struct RecordingController final : UpdaterController {
 };
 
 struct RecordingPresenter final : UpdatePresenter {
-    void presentUpdateAvailable(const QString &version, bool) override {
+    void presentUpdateAvailable(const QString &version, bool) override
+    {
         shown << u"sheet " + version;
     }
     void presentNoUpdate() override { shown << QStringLiteral("up to date"); }
@@ -42,7 +44,8 @@ struct RecordingPresenter final : UpdatePresenter {
 // Its updater only records calls unless the program's own one is asked for.
 class Rig {
 public:
-    explicit Rig(bool ownUpdater = false, const QUrl &feedUrl = {}) {
+    explicit Rig(bool ownUpdater = false, const QUrl &feedUrl = {})
+    {
         UpdateManager::Options options;
         options.settings = &settings.store();
         options.clock = &clock;
@@ -59,21 +62,24 @@ public:
         manager = std::make_unique<UpdateManager>(options);
     }
 
-    UpdateManager::Completion recorder(const QString &tag) {
+    UpdateManager::Completion recorder(const QString &tag)
+    {
         return [this, tag](bool available, const std::optional<QString> &version) {
             answers << tag + (available ? u" yes " : u" no ") + version.value_or(u"-"_qs);
         };
     }
 
     // Starts an automatic check and waits until the feed has been judged.
-    void runAutomaticCheck() {
+    void runAutomaticCheck()
+    {
         const qsizetype before = console.lines().size();
         manager->checkAutomaticallyAndPresentIfAvailable();
         QTRY_VERIFY(console.lines().mid(before).join(u'\n').contains(u"✅"));
         QTest::qWait(20); // the queued answer and the updater's turn
     }
 
-    double snoozeUntil() {
+    double snoozeUntil()
+    {
         return settings.store().doubleValue(UpdateManager::updateSnoozeUntilKey);
     }
 
@@ -88,7 +94,8 @@ public:
     std::unique_ptr<UpdateManager> manager;
 };
 
-double epochSeconds(const QDateTime &when) {
+double epochSeconds(const QDateTime &when)
+{
     return when.toMSecsSinceEpoch() / 1000.0;
 }
 
@@ -97,7 +104,8 @@ double epochSeconds(const QDateTime &when) {
 class UpdateManagerTest : public QObject {
     Q_OBJECT
 private Q_SLOTS:
-    void judgesTheFeed_data() {
+    void judgesTheFeed_data()
+    {
         QTest::addColumn<int>("status");
         QTest::addColumn<QByteArray>("body");
         QTest::addColumn<QString>("answer");
@@ -113,7 +121,8 @@ private Q_SLOTS:
             << QStringList{current, "📦 Latest version: ", "✅ No update available"};
     }
 
-    void judgesTheFeed() {
+    void judgesTheFeed()
+    {
         QFETCH(int, status);
         QFETCH(QByteArray, body);
         QFETCH(QString, answer);
@@ -129,7 +138,8 @@ private Q_SLOTS:
         QCOMPARE(rig.console.lines(), lines);
     }
 
-    void transportFailureAndMissingData() {
+    void transportFailureAndMissingData()
+    {
         const quint16 closedPort = [] {
             QTcpServer probe;
             return probe.listen(QHostAddress::LocalHost) ? probe.serverPort() : quint16(1);
@@ -147,7 +157,8 @@ private Q_SLOTS:
         QCOMPARE(rig.console.take(), QStringList{"❌ No data received from appcast"});
     }
 
-    void supersededRequestNeverAnswers() {
+    void supersededRequestNeverAnswers()
+    {
         Rig rig;
         rig.server.serve({.body = feed("2.0")});
         rig.server.hold();
@@ -163,7 +174,8 @@ private Q_SLOTS:
         QVERIFY(rig.console.startingWith("❌").isEmpty());
     }
 
-    void homebrewInstallIsDetectedAndHasNoUpdater() {
+    void homebrewInstallIsDetectedAndHasNoUpdater()
+    {
         Rig rig;
         const QString opt = rig.prefixes.path() + u"/opt/homebrew";
         const QString local = rig.prefixes.path() + u"/usr/local";
@@ -202,7 +214,8 @@ private Q_SLOTS:
         QVERIFY(rig.calls.isEmpty());
     }
 
-    void updaterGuardHoldsForEightSeconds() {
+    void updaterGuardHoldsForEightSeconds()
+    {
         Rig rig;
         QVERIFY(rig.manager->checkForUpdatesWithSparkle());
         QVERIFY(rig.calls.isEmpty()); // runs right after the current work
@@ -225,7 +238,8 @@ private Q_SLOTS:
         QCOMPARE(rig.calls.size(), 4);
     }
 
-    void reminderSnoozeFollowsTheOfferedVersion() {
+    void reminderSnoozeFollowsTheOfferedVersion()
+    {
         Rig rig;
         rig.server.serve({.body = feed("2.0")});
         SettingsStore &store = rig.settings.store();
@@ -274,13 +288,14 @@ private Q_SLOTS:
         rig.timers.fire(8s);
         rig.manager->resetAutoReminderSnooze();
         QCOMPARE(rig.console.lines().last(), QStringLiteral("🔄 Update reminder snooze reset"));
-        QVERIFY(!store.contains(UpdateManager::updateSnoozeUntilKey) &&
-                !store.contains(UpdateManager::updateSnoozeVersionKey));
+        QVERIFY(!store.contains(UpdateManager::updateSnoozeUntilKey)
+                && !store.contains(UpdateManager::updateSnoozeVersionKey));
         rig.runAutomaticCheck();
         QCOMPARE(rig.calls.size(), 10);
     }
 
-    void ownUpdaterShowsWhatTheFeedSays() {
+    void ownUpdaterShowsWhatTheFeedSays()
+    {
         Rig rig(true);
         auto presenter = std::make_shared<RecordingPresenter>();
         rig.manager->setPresenter(presenter);

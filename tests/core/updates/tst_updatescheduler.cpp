@@ -19,14 +19,15 @@ const QString scheduling = QStringLiteral("🕒 Scheduling startup auto update c
 // A scheduler wired to its store as the application wires it.
 class Rig {
 public:
-    Rig()
-        : scheduler(settings.store(), timers, [this] { ++checks; }) {
+    Rig() : scheduler(settings.store(), timers, [this] { ++checks; })
+    {
         QObject::connect(&settings.store(), &SettingsStore::changed, &scheduler,
                          &UpdateScheduler::userDefaultsDidChange);
     }
 
     // Active timers as "120s once" or "86400s repeating".
-    QStringList timerList() const {
+    QStringList timerList() const
+    {
         QStringList list;
         for (const FakeTimer *timer : timers.active())
             list << QStringLiteral("%1s %2")
@@ -42,7 +43,8 @@ public:
     UpdateScheduler scheduler;
 };
 
-QStringList configLines(const QString &startup, const QString &raw, const QString &resolved) {
+QStringList configLines(const QString &startup, const QString &raw, const QString &resolved)
+{
     return {"🧭 UpdateScheduler config:", "   - checkForUpdatesAtStartup = " + startup,
             "   - updateCheckInterval(raw) = " + raw,
             "   - resolved interval        = " + resolved};
@@ -53,28 +55,30 @@ QStringList configLines(const QString &startup, const QString &raw, const QStrin
 class UpdateSchedulerTest : public QObject {
     Q_OBJECT
 private Q_SLOTS:
-    void configuresFromTheStore_data() {
+    void configuresFromTheStore_data()
+    {
         QTest::addColumn<QVariant>("startup"); // invalid: absent
         QTest::addColumn<QVariant>("raw");     // invalid: absent
         QTest::addColumn<QStringList>("lines");
         QTest::addColumn<QStringList>("timers");
 
         const QStringList daily{scheduling, "✅ Interval timer scheduled every 86400s (daily)"};
-        QTest::newRow("empty store") << QVariant() << QVariant()
-                                     << configLines("true", "daily", "daily") + daily
-                                     << QStringList{"120s once", "86400s repeating"};
+        QTest::newRow("empty store")
+            << QVariant() << QVariant() << configLines("true", "daily", "daily") + daily
+            << QStringList{"120s once", "86400s repeating"};
         QTest::newRow("unknown interval reads as daily")
             << QVariant(true) << QVariant("2h") << configLines("true", "2h", "daily") + daily
             << QStringList{"120s once", "86400s repeating"};
         QTest::newRow("never, no startup check")
             << QVariant(false) << QVariant("never")
-            << configLines("false", "never", "never") +
-                   QStringList{"⛔️ Startup update check disabled",
-                               "⛔️ Interval update checks disabled (interval = never)"}
+            << configLines("false", "never", "never")
+                   + QStringList{"⛔️ Startup update check disabled",
+                                 "⛔️ Interval update checks disabled (interval = never)"}
             << QStringList();
     }
 
-    void configuresFromTheStore() {
+    void configuresFromTheStore()
+    {
         QFETCH(QVariant, startup);
         QFETCH(QVariant, raw);
         QFETCH(QStringList, lines);
@@ -91,7 +95,8 @@ private Q_SLOTS:
         QCOMPARE(rig.timerList(), timers);
     }
 
-    void firingsRunTheAutomaticCheckUntilStopped() {
+    void firingsRunTheAutomaticCheckUntilStopped()
+    {
         Rig rig;
         rig.scheduler.configureUpdateScheduler();
         rig.console.take();
@@ -100,16 +105,18 @@ private Q_SLOTS:
         QCOMPARE(rig.timers.fire(120s), 0); // once only
         QCOMPARE(rig.timers.fire(86400s), 1);
         QCOMPARE(rig.timers.fire(86400s), 1);
-        QCOMPARE(rig.console.take(), QStringList({"⏱️ Startup auto update check fired (after 120s)",
-                                                  "🔁 Interval auto update check fired (daily)",
-                                                  "🔁 Interval auto update check fired (daily)"}));
+        QCOMPARE(rig.console.take(),
+                 QStringList({"⏱️ Startup auto update check fired (after 120s)",
+                              "🔁 Interval auto update check fired (daily)",
+                              "🔁 Interval auto update check fired (daily)"}));
         QCOMPARE(rig.checks, 3);
 
         rig.scheduler.stop();
         QVERIFY(rig.timers.active().isEmpty());
     }
 
-    void reconfiguresOnlyWhenEitherSettingChanges() {
+    void reconfiguresOnlyWhenEitherSettingChanges()
+    {
         Rig rig;
         rig.scheduler.configureUpdateScheduler();
         FakeTimer *firstInterval = rig.timers.activeWithInterval(86400s).value(0);
@@ -127,8 +134,8 @@ private Q_SLOTS:
         rig.console.take();
         rig.settings.store().setString(intervalKey, QStringLiteral("weekly"));
         const QStringList expected =
-            QStringList{reconfigure} + configLines("true", "weekly", "weekly") +
-            QStringList{scheduling, "✅ Interval timer scheduled every 604800s (weekly)"};
+            QStringList{reconfigure} + configLines("true", "weekly", "weekly")
+            + QStringList{scheduling, "✅ Interval timer scheduled every 604800s (weekly)"};
         QCOMPARE(rig.console.take(), expected);
         QVERIFY(!firstInterval || !firstInterval->isActive());
         QCOMPARE(rig.timerList(), QStringList({"120s once", "604800s repeating"}));

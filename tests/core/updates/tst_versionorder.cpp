@@ -12,21 +12,30 @@ private slots:
         QTest::addColumn<bool>("aNewer");
         QTest::addColumn<bool>("bNewer");
 
-        QTest::newRow("numeric, not textual") << "1.10" << "1.9" << true << false;
-        QTest::newRow("missing parts are zeros") << "1.2" << "1.2.0" << false << false;
-        QTest::newRow("shorter can be newer") << "2" << "1.9.9" << true << false;
-        QTest::newRow("junk part moves the rest up") << "1.2.3" << "1.2.x.4" << false << true;
-        QTest::newRow("part too large is dropped") << "1.99999999999999999999" << "1.0" << false
-                                                   << false;
-        QTest::newRow("sign counts") << "-1" << "0" << false << true;
-        QTest::newRow("empty parts left out") << "1..2" << "1.2" << false << false;
-        QTest::newRow("pre-release suffix ignored") << "1.2.3-beta" << "1.2" << false << false;
-        QTest::newRow("largest value") << "9223372036854775807" << "9223372036854775806" << true
-                                       << false;
-        QTest::newRow("smallest value") << "-9223372036854775808" << "-9223372036854775807"
-                                        << false << true;
-        QTest::newRow("just past the range") << "9223372036854775808" << "0" << false << false;
-        QTest::newRow("just below the range") << "-9223372036854775809" << "0" << false << false;
+        QTest::newRow("numeric, not textual") << "1.10"
+                                              << "1.9" << true << false;
+        QTest::newRow("missing parts are zeros") << "1.2"
+                                                 << "1.2.0" << false << false;
+        QTest::newRow("shorter can be newer") << "2"
+                                              << "1.9.9" << true << false;
+        QTest::newRow("junk part moves the rest up") << "1.2.3"
+                                                     << "1.2.x.4" << false << true;
+        QTest::newRow("part too large is dropped") << "1.99999999999999999999"
+                                                   << "1.0" << false << false;
+        QTest::newRow("sign counts") << "-1"
+                                     << "0" << false << true;
+        QTest::newRow("empty parts left out") << "1..2"
+                                              << "1.2" << false << false;
+        QTest::newRow("pre-release suffix ignored") << "1.2.3-beta"
+                                                    << "1.2" << false << false;
+        QTest::newRow("largest value") << "9223372036854775807"
+                                       << "9223372036854775806" << true << false;
+        QTest::newRow("smallest value") << "-9223372036854775808"
+                                        << "-9223372036854775807" << false << true;
+        QTest::newRow("just past the range") << "9223372036854775808"
+                                             << "0" << false << false;
+        QTest::newRow("just below the range") << "-9223372036854775809"
+                                              << "0" << false << false;
         QTest::newRow("only ASCII digits") << QStringLiteral("1.\uff12") << "1" << false << false;
     }
 

@@ -48,8 +48,8 @@ class AppTest : public QObject {
     {
         const QString program = m_tree->stub(id);
         m_tree->write(dataDir + u"/applications/" + id + u".desktop",
-                      "[Desktop Entry]\nType=Application\nName=" + name + "\nExec=" + program.toUtf8()
-                          + " %u\nMimeType=" + mimeTypes + "\n" + extra);
+                      "[Desktop Entry]\nType=Application\nName=" + name + "\nExec="
+                          + program.toUtf8() + " %u\nMimeType=" + mimeTypes + "\n" + extra);
     }
 
     static QJsonObject status(QStringList *consoleLines = nullptr)
@@ -59,27 +59,33 @@ class AppTest : public QObject {
         if (!process.waitForFinished(30000) || process.exitCode() != 0)
             return {};
         if (consoleLines)
-            *consoleLines = QString::fromUtf8(process.readAllStandardError()).split(u'\n', Qt::SkipEmptyParts);
+            *consoleLines =
+                QString::fromUtf8(process.readAllStandardError()).split(u'\n', Qt::SkipEmptyParts);
         return QJsonDocument::fromJson(process.readAllStandardOutput()).object();
     }
 
     static QStringList installedNames(const QJsonObject &report, const char *side)
     {
         QStringList names;
-        for (const QJsonValue &record : report.value(QLatin1StringView(side)).toObject().value(u"installed").toArray())
+        for (const QJsonValue &record :
+             report.value(QLatin1StringView(side)).toObject().value(u"installed").toArray())
             names << record.toObject().value(u"name").toString();
         return names;
     }
 
     static QString currentId(const QJsonObject &report, const char *side)
     {
-        const QJsonValue current = report.value(QLatin1StringView(side)).toObject().value(u"current");
-        return current.isObject() ? current.toObject().value(u"bundleIdentifier").toString() : QString();
+        const QJsonValue current =
+            report.value(QLatin1StringView(side)).toObject().value(u"current");
+        return current.isObject() ? current.toObject().value(u"bundleIdentifier").toString()
+                                  : QString();
     }
 
     static QString gioDefault(const char *scheme)
     {
-        QString id = XdgTree::gioMime(QStringLiteral("x-scheme-handler/") + QLatin1StringView(scheme)).defaultId;
+        QString id =
+            XdgTree::gioMime(QStringLiteral("x-scheme-handler/") + QLatin1StringView(scheme))
+                .defaultId;
         return id.endsWith(u".desktop") ? id.chopped(8) : id;
     }
 
@@ -122,9 +128,11 @@ class AppTest : public QObject {
     {
         QVERIFY(run(QStringLiteral("gio"), {"mime", "x-scheme-handler/https", "chromium.desktop"}));
         QVERIFY(run(QStringLiteral("gio"), {"mime", "x-scheme-handler/http", "chromium.desktop"}));
-        m_tree->write(QStringLiteral("config/io.kestrane.vandorel/settings.ini"),
-                      "[General]\nhasLaunchedBefore=true\nmonitoringEnabled=true\ncheckInterval=10min\n"
-                      "checkOnLogin=true\n" + firefoxTarget);
+        m_tree->write(
+            QStringLiteral("config/io.kestrane.vandorel/settings.ini"),
+            "[General]\nhasLaunchedBefore=true\nmonitoringEnabled=true\ncheckInterval=10min\n"
+            "checkOnLogin=true\n"
+                + firefoxTarget);
     }
 
 private Q_SLOTS:
@@ -143,20 +151,24 @@ private Q_SLOTS:
 
     void statusFollowsWhatGioResolves()
     {
-        QVERIFY(run(QStringLiteral("xdg-mime"), {"default", "firefox-esr.desktop", "x-scheme-handler/https",
-                                                 "x-scheme-handler/http"}));
-        QVERIFY(run(QStringLiteral("xdg-mime"), {"default", "thunderbird.desktop", "x-scheme-handler/mailto"}));
+        QVERIFY(
+            run(QStringLiteral("xdg-mime"), {"default", "firefox-esr.desktop",
+                                             "x-scheme-handler/https", "x-scheme-handler/http"}));
+        QVERIFY(run(QStringLiteral("xdg-mime"),
+                    {"default", "thunderbird.desktop", "x-scheme-handler/mailto"}));
         QJsonObject report = status();
         QCOMPARE(currentId(report, "browser"), QString("firefox-esr"));
         QCOMPARE(currentId(report, "browser"), gioDefault("https"));
         QCOMPARE(currentId(report, "email"), gioDefault("mailto"));
         const QJsonObject browser = report.value(u"browser").toObject();
-        QCOMPARE(browser.value(u"current").toObject().value(u"name").toString(), QString("Firefox ESR"));
+        QCOMPARE(browser.value(u"current").toObject().value(u"name").toString(),
+                 QString("Firefox ESR"));
         QVERIFY(browser.value(u"target").isNull());
         QCOMPARE(browser.value(u"status").toString(), QString("notProtected"));
 
         QVERIFY(run(QStringLiteral("gio"), {"mime", "x-scheme-handler/https", "chromium.desktop"}));
-        QVERIFY(run(QStringLiteral("gio"), {"mime", "x-scheme-handler/mailto", "claws-mail.desktop"}));
+        QVERIFY(
+            run(QStringLiteral("gio"), {"mime", "x-scheme-handler/mailto", "claws-mail.desktop"}));
         report = status();
         QCOMPARE(currentId(report, "browser"), QString("chromium"));
         QCOMPARE(currentId(report, "browser"), gioDefault("https"));
@@ -164,7 +176,8 @@ private Q_SLOTS:
         QCOMPARE(currentId(report, "email"), gioDefault("mailto"));
 
         // xdg-settings changes http and https together.
-        QVERIFY(run(QStringLiteral("xdg-settings"), {"set", "default-web-browser", "firefox-esr.desktop"}));
+        QVERIFY(run(QStringLiteral("xdg-settings"),
+                    {"set", "default-web-browser", "firefox-esr.desktop"}));
         report = status();
         QCOMPARE(currentId(report, "browser"), QString("firefox-esr"));
         QCOMPARE(currentId(report, "browser"), gioDefault("https"));
@@ -177,13 +190,18 @@ private Q_SLOTS:
     {
         // A known identifier, whatever its name; a registered handler whose name the rules
         // reject; one they accept through "min"; one GIO refuses (its TryExec is missing).
-        application(QStringLiteral("share1"), QStringLiteral("org.mozilla.firefox"), "Nightly", "x-scheme-handler/https;");
-        application(QStringLiteral("share2"), QStringLiteral("terminal-web"), "Terminal Web Browser", "x-scheme-handler/http;");
-        application(QStringLiteral("share2"), QStringLiteral("admin"), "Admin Panel", "x-scheme-handler/http;");
+        application(QStringLiteral("share1"), QStringLiteral("org.mozilla.firefox"), "Nightly",
+                    "x-scheme-handler/https;");
+        application(QStringLiteral("share2"), QStringLiteral("terminal-web"),
+                    "Terminal Web Browser", "x-scheme-handler/http;");
+        application(QStringLiteral("share2"), QStringLiteral("admin"), "Admin Panel",
+                    "x-scheme-handler/http;");
         application(QStringLiteral("share2"), QStringLiteral("ghost"), "Ghost Browser Mail",
-                    "x-scheme-handler/https;x-scheme-handler/mailto;", "TryExec=/nonexistent/ghost\n");
+                    "x-scheme-handler/https;x-scheme-handler/mailto;",
+                    "TryExec=/nonexistent/ghost\n");
         m_tree->updateCaches();
-        const QStringList registered = XdgTree::gioMime(QStringLiteral("x-scheme-handler/https")).registered;
+        const QStringList registered =
+            XdgTree::gioMime(QStringLiteral("x-scheme-handler/https")).registered;
         QVERIFY(!registered.contains(QStringLiteral("ghost.desktop")));
 
         QStringList console;
@@ -198,14 +216,16 @@ private Q_SLOTS:
     void statusReadsTargetsAndSwitchesFromTheStore()
     {
         QVERIFY(run(QStringLiteral("gio"), {"mime", "x-scheme-handler/https", "chromium.desktop"}));
-        m_tree->write(QStringLiteral("config/io.kestrane.vandorel/settings.ini"),
-                      "[General]\nmonitoringEnabled=true\ncheckInterval=5min\n"
-                      + firefoxTarget
-                      + "emailMonitoringEnabled=maybe\ntargetDefaultEmailClient=@ByteArray(garbage)\n");
-        const QByteArray before = m_tree->read(QStringLiteral("config/io.kestrane.vandorel/settings.ini"));
+        m_tree->write(
+            QStringLiteral("config/io.kestrane.vandorel/settings.ini"),
+            "[General]\nmonitoringEnabled=true\ncheckInterval=5min\n" + firefoxTarget
+                + "emailMonitoringEnabled=maybe\ntargetDefaultEmailClient=@ByteArray(garbage)\n");
+        const QByteArray before =
+            m_tree->read(QStringLiteral("config/io.kestrane.vandorel/settings.ini"));
         const QJsonObject report = status();
         const QJsonObject browser = report.value(u"browser").toObject();
-        QCOMPARE(browser.value(u"target").toObject().value(u"bundleIdentifier").toString(), QString("firefox-esr"));
+        QCOMPARE(browser.value(u"target").toObject().value(u"bundleIdentifier").toString(),
+                 QString("firefox-esr"));
         QCOMPARE(browser.value(u"isProtected").toBool(), true);
         QCOMPARE(browser.value(u"status").toString(), QString("mismatch"));
         const QJsonObject email = report.value(u"email").toObject();
@@ -225,7 +245,8 @@ private Q_SLOTS:
         first.start(QStringLiteral(VANDOREL_BINARY));
         QByteArray out;
         QTRY_VERIFY_WITH_TIMEOUT((out += first.readAllStandardOutput(),
-                                  out.contains("🚀 App launched -> configure update scheduler")), 20000);
+                                  out.contains("🚀 App launched -> configure update scheduler")),
+                                 20000);
         QVERIFY(out.contains("✨ First launch - defaults set\n"));
         QVERIFY(out.contains("✨ Email: First launch - defaults set\n"));
 
@@ -235,7 +256,8 @@ private Q_SLOTS:
         QVERIFY(second.waitForFinished(20000));
         QCOMPARE(second.exitStatus(), QProcess::NormalExit);
         QCOMPARE(second.exitCode(), 0);
-        QCOMPARE(second.readAllStandardOutput(), QByteArray("⚠️ Another instance is already running. Exiting...\n"));
+        QCOMPARE(second.readAllStandardOutput(),
+                 QByteArray("⚠️ Another instance is already running. Exiting...\n"));
         QCOMPARE(first.state(), QProcess::Running);
 
         first.terminate();
@@ -245,8 +267,8 @@ private Q_SLOTS:
         again.setProcessEnvironment(env);
         again.start(QStringLiteral(VANDOREL_BINARY));
         QByteArray out2;
-        QTRY_VERIFY_WITH_TIMEOUT((out2 += again.readAllStandardOutput(),
-                                  out2.contains("🚀 App launched")), 20000);
+        QTRY_VERIFY_WITH_TIMEOUT(
+            (out2 += again.readAllStandardOutput(), out2.contains("🚀 App launched")), 20000);
         QVERIFY(!out2.contains("First launch"));
         again.kill();
         again.waitForFinished(5000);

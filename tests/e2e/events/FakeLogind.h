@@ -23,7 +23,10 @@ class FakeLoginManager : public QObject {
     Q_OBJECT
     Q_CLASSINFO("D-Bus Interface", "org.freedesktop.login1.Manager")
 public Q_SLOTS:
-    QDBusObjectPath GetSessionByPID(uint) { return QDBusObjectPath(QStringLiteral("/org/freedesktop/login1/session/_31")); }
+    QDBusObjectPath GetSessionByPID(uint)
+    {
+        return QDBusObjectPath(QStringLiteral("/org/freedesktop/login1/session/_31"));
+    }
 };
 
 class FakeLogind {
@@ -35,7 +38,8 @@ public:
         m_manager.moveToThread(&m_thread);
         m_session.moveToThread(&m_thread);
         m_bus.registerService(QStringLiteral("org.freedesktop.login1"));
-        m_bus.registerObject(QStringLiteral("/org/freedesktop/login1"), &m_manager, QDBusConnection::ExportAllSlots);
+        m_bus.registerObject(QStringLiteral("/org/freedesktop/login1"), &m_manager,
+                             QDBusConnection::ExportAllSlots);
         m_bus.registerObject(QStringLiteral("/org/freedesktop/login1/session/_31"), &m_session,
                              QDBusConnection::ExportAllProperties);
     }
@@ -51,9 +55,9 @@ public:
 
     void sleep(bool starting)
     {
-        QDBusMessage signal = QDBusMessage::createSignal(QStringLiteral("/org/freedesktop/login1"),
-                                                         QStringLiteral("org.freedesktop.login1.Manager"),
-                                                         QStringLiteral("PrepareForSleep"));
+        QDBusMessage signal = QDBusMessage::createSignal(
+            QStringLiteral("/org/freedesktop/login1"),
+            QStringLiteral("org.freedesktop.login1.Manager"), QStringLiteral("PrepareForSleep"));
         signal << starting;
         m_bus.send(signal);
     }
@@ -61,9 +65,9 @@ public:
     void lockedHintChanged(bool locked)
     {
         m_session.locked = locked;
-        QDBusMessage signal = QDBusMessage::createSignal(QStringLiteral("/org/freedesktop/login1/session/_31"),
-                                                         QStringLiteral("org.freedesktop.DBus.Properties"),
-                                                         QStringLiteral("PropertiesChanged"));
+        QDBusMessage signal = QDBusMessage::createSignal(
+            QStringLiteral("/org/freedesktop/login1/session/_31"),
+            QStringLiteral("org.freedesktop.DBus.Properties"), QStringLiteral("PropertiesChanged"));
         signal << QStringLiteral("org.freedesktop.login1.Session")
                << QVariantMap{{QStringLiteral("LockedHint"), locked}} << QStringList();
         m_bus.send(signal);

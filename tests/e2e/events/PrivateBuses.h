@@ -6,8 +6,8 @@
 #include <QTextStream>
 #include <QThread>
 
-#include <sys/types.h>
 #include <signal.h>
+#include <sys/types.h>
 
 // A private session bus and a private system-like bus, started with dbus-daemon and
 // ended with the object. The addresses are exported so the process's own default
@@ -19,12 +19,13 @@ public:
         const QString config = m_dir.path() + u"/system.conf";
         QFile file(config);
         if (file.open(QIODevice::WriteOnly)) {
-            QTextStream(&file) << "<!DOCTYPE busconfig PUBLIC \"-//freedesktop//DTD D-Bus Bus Configuration 1.0//EN\" "
-                                  "\"http://www.freedesktop.org/standards/dbus/1.0/busconfig.dtd\">\n"
-                               << "<busconfig><type>system</type><listen>unix:path=" << m_dir.path()
-                               << "/system.sock</listen><auth>EXTERNAL</auth>"
-                               << "<policy context=\"default\"><allow own=\"*\"/><allow send_destination=\"*\"/>"
-                               << "<allow receive_sender=\"*\"/><allow user=\"*\"/></policy></busconfig>\n";
+            QTextStream(&file)
+                << "<!DOCTYPE busconfig PUBLIC \"-//freedesktop//DTD D-Bus Bus Configuration 1.0//EN\" "
+                   "\"http://www.freedesktop.org/standards/dbus/1.0/busconfig.dtd\">\n"
+                << "<busconfig><type>system</type><listen>unix:path=" << m_dir.path()
+                << "/system.sock</listen><auth>EXTERNAL</auth>"
+                << "<policy context=\"default\"><allow own=\"*\"/><allow send_destination=\"*\"/>"
+                << "<allow receive_sender=\"*\"/><allow user=\"*\"/></policy></busconfig>\n";
         }
         m_system = start({QStringLiteral("--config-file=") + config});
         m_session = start({QStringLiteral("--session")});
@@ -61,7 +62,8 @@ private:
         process.start(QStringLiteral("dbus-daemon"), arguments);
         if (!process.waitForFinished(10000))
             return {};
-        const QStringList lines = QString::fromUtf8(process.readAllStandardOutput()).split(u'\n', Qt::SkipEmptyParts);
+        const QStringList lines =
+            QString::fromUtf8(process.readAllStandardOutput()).split(u'\n', Qt::SkipEmptyParts);
         if (lines.size() < 2)
             return {};
         return {lines.at(0).trimmed(), lines.at(1).trimmed().toLongLong()};

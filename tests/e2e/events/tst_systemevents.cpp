@@ -22,14 +22,15 @@ class SystemEventsTest : public QObject {
 
     QDBusConnection screenSaverBus()
     {
-        return QDBusConnection::connectToBus(m_buses->sessionAddress(), QStringLiteral("screensaver"));
+        return QDBusConnection::connectToBus(m_buses->sessionAddress(),
+                                             QStringLiteral("screensaver"));
     }
 
     static void screenSaverActive(QDBusConnection &bus, bool active)
     {
-        QDBusMessage signal = QDBusMessage::createSignal(QStringLiteral("/org/freedesktop/ScreenSaver"),
-                                                         QStringLiteral("org.freedesktop.ScreenSaver"),
-                                                         QStringLiteral("ActiveChanged"));
+        QDBusMessage signal = QDBusMessage::createSignal(
+            QStringLiteral("/org/freedesktop/ScreenSaver"),
+            QStringLiteral("org.freedesktop.ScreenSaver"), QStringLiteral("ActiveChanged"));
         signal << active;
         bus.send(signal);
     }

@@ -32,8 +32,8 @@ class GuardEndToEndTest : public QObject {
     {
         const QString program = m_tree->stub(id);
         m_tree->write(u"share1/applications/" + id + u".desktop",
-                      "[Desktop Entry]\nType=Application\nName=" + name + "\nExec=" + program.toUtf8()
-                          + " %u\nMimeType=" + mimeTypes + "\n");
+                      "[Desktop Entry]\nType=Application\nName=" + name
+                          + "\nExec=" + program.toUtf8() + " %u\nMimeType=" + mimeTypes + "\n");
     }
 
     // What another program does: xdg-mime writes the user's mimeapps.list.
@@ -79,17 +79,20 @@ private Q_SLOTS:
         QTest::addColumn<QString>("target");
         QTest::addColumn<QString>("intruder");
         QTest::addColumn<QStringList>("expected");
-        QTest::newRow("browser")
-            << false << QStringList{"https", "http"} << "firefox" << "chromium"
-            << QStringList{"📝 Log: Browser changed from Firefox to Chromium", "   HTTP: 0, HTTPS: 0",
-                           "📡 Poll 1: firefox vs firefox", "📝 Log: Browser changed from Chromium to Firefox",
-                           "✅ Browser set to Firefox"};
-        QTest::newRow("mail")
-            << true << QStringList{"mailto"} << "thunderbird" << "evolution"
-            << QStringList{"📝 Log: Email client changed from Thunderbird to Evolution", "   mailto: 0",
-                           "📡 Email Poll 1: thunderbird vs thunderbird",
-                           "📝 Log: Email client changed from Evolution to Thunderbird",
-                           "✅ Email client set to Thunderbird"};
+        QTest::newRow("browser") << false << QStringList{"https", "http"} << "firefox"
+                                 << "chromium"
+                                 << QStringList{"📝 Log: Browser changed from Firefox to Chromium",
+                                                "   HTTP: 0, HTTPS: 0",
+                                                "📡 Poll 1: firefox vs firefox",
+                                                "📝 Log: Browser changed from Chromium to Firefox",
+                                                "✅ Browser set to Firefox"};
+        QTest::newRow("mail") << true << QStringList{"mailto"} << "thunderbird"
+                              << "evolution"
+                              << QStringList{
+                                     "📝 Log: Email client changed from Thunderbird to Evolution",
+                                     "   mailto: 0", "📡 Email Poll 1: thunderbird vs thunderbird",
+                                     "📝 Log: Email client changed from Evolution to Thunderbird",
+                                     "✅ Email client set to Thunderbird"};
     }
 
     void aTakenOverRoleIsFoundAndChangedBack()
@@ -144,7 +147,8 @@ private Q_SLOTS:
         QCOMPARE(console.lines().last(), expected.last());
         QCOMPARE(guard->changeCount(), 2);
         for (const QString &scheme : schemes)
-            QCOMPARE(XdgTree::gioMime(u"x-scheme-handler/" + scheme).defaultId, target + u".desktop");
+            QCOMPARE(XdgTree::gioMime(u"x-scheme-handler/" + scheme).defaultId,
+                     target + u".desktop");
 
         // Back in place: the next check is quiet.
         console.take();

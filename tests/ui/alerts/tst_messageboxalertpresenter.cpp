@@ -57,14 +57,16 @@ private Q_SLOTS:
         auto *label = box->findChild<QLabel *>("qt_msgbox_informativelabel");
         QVERIFY(label);
         QCOMPARE(label->textFormat(), Qt::PlainText);
-        QCOMPARE(label->text(), QString("Another program has made <b>Evil</b> & Co your default browser."));
+        QCOMPARE(label->text(),
+                 QString("Another program has made <b>Evil</b> & Co your default browser."));
 
         const QImage icon = box->iconPixmap().toImage();
         QVERIFY(!icon.isNull());
         int orange = 0;
         for (int y = 0; y < icon.height(); ++y)
             for (int x = 0; x < icon.width(); ++x)
-                if (QColor c = icon.pixelColor(x, y); c.alpha() > 200 && c.red() > 200 && c.blue() < 60)
+                if (QColor c = icon.pixelColor(x, y);
+                    c.alpha() > 200 && c.red() > 200 && c.blue() < 60)
                     ++orange;
         QVERIFY2(orange > 200, "the shield is drawn in the warning colour");
 

@@ -71,8 +71,8 @@ int mostSaturation(QWidget *widget)
     int most = 0;
     for (int y = 0; y < image.height(); ++y)
         for (int x = 0; x < image.width(); ++x)
-            most = qMax(most, image.pixelColor(x, y).hsvSaturation() *
-                                  image.pixelColor(x, y).alpha() / 255);
+            most = qMax(most, image.pixelColor(x, y).hsvSaturation()
+                                  * image.pixelColor(x, y).alpha() / 255);
     return most;
 }
 
@@ -248,8 +248,8 @@ private Q_SLOTS:
             QStringLiteral("It would be lovely to see which app changed my default browser."));
         QTest::qWait(400); // let the springs settle
         const QImage shot = rig.view->grab().toImage();
-        QVERIFY(shot.save(QCoreApplication::applicationDirPath() +
-                          (dark ? u"/feedback_dark.png" : u"/feedback_light.png")));
+        QVERIFY(shot.save(QCoreApplication::applicationDirPath()
+                          + (dark ? u"/feedback_dark.png" : u"/feedback_light.png")));
         const int background = qGray(shot.pixel(3, shot.height() - 3));
         QVERIFY2(dark ? background < 60 : background > 200,
                  qPrintable(QString::number(background)));

@@ -23,14 +23,38 @@ private Q_SLOTS:
     void everyNameRenders_data()
     {
         QTest::addColumn<QString>("symbol");
-        for (const char *name :
-             {"arrow.clockwise", "arrow.counterclockwise", "arrow.down.circle", "arrow.down.circle.fill",
-              "arrow.up.right", "bell.fill", "bell.slash", "bubble.left.and.bubble.right", "chart.bar",
-              "chart.bar.fill", "chart.bar.xaxis", "checkmark.circle.fill", "checkmark.shield.fill",
-              "clock.fill", "cup.and.saucer.fill", "doc.on.doc", "doc.text.magnifyingglass", "envelope",
-              "exclamationmark.shield", "exclamationmark.shield.fill", "globe", "info.circle",
-              "list.bullet.rectangle", "moon.zzz", "moon.zzz.fill", "mug.fill", "shield", "shield.checkered",
-              "shield.fill", "square.and.arrow.up", "trash", "xmark.shield.fill"})
+        for (const char *name : {"arrow.clockwise",
+                                 "arrow.counterclockwise",
+                                 "arrow.down.circle",
+                                 "arrow.down.circle.fill",
+                                 "arrow.up.right",
+                                 "bell.fill",
+                                 "bell.slash",
+                                 "bubble.left.and.bubble.right",
+                                 "chart.bar",
+                                 "chart.bar.fill",
+                                 "chart.bar.xaxis",
+                                 "checkmark.circle.fill",
+                                 "checkmark.shield.fill",
+                                 "clock.fill",
+                                 "cup.and.saucer.fill",
+                                 "doc.on.doc",
+                                 "doc.text.magnifyingglass",
+                                 "envelope",
+                                 "exclamationmark.shield",
+                                 "exclamationmark.shield.fill",
+                                 "globe",
+                                 "info.circle",
+                                 "list.bullet.rectangle",
+                                 "moon.zzz",
+                                 "moon.zzz.fill",
+                                 "mug.fill",
+                                 "shield",
+                                 "shield.checkered",
+                                 "shield.fill",
+                                 "square.and.arrow.up",
+                                 "trash",
+                                 "xmark.shield.fill"})
             QTest::newRow(name) << QString::fromLatin1(name);
     }
 
@@ -52,13 +76,15 @@ private Q_SLOTS:
         QImage strip(5 * 72, 72, QImage::Format_ARGB32);
         strip.fill(Qt::white);
         QPainter painter(&strip);
-        const QList<QPair<const char *, QColor>> shields{{"checkmark.shield.fill", QColor(52, 199, 89)},
-                                                         {"exclamationmark.shield.fill", QColor(255, 149, 0)},
-                                                         {"xmark.shield.fill", QColor(255, 59, 48)},
-                                                         {"exclamationmark.shield", Qt::black},
-                                                         {"shield", Qt::black}};
+        const QList<QPair<const char *, QColor>> shields{
+            {"checkmark.shield.fill", QColor(52, 199, 89)},
+            {"exclamationmark.shield.fill", QColor(255, 149, 0)},
+            {"xmark.shield.fill", QColor(255, 59, 48)},
+            {"exclamationmark.shield", Qt::black},
+            {"shield", Qt::black}};
         for (int i = 0; i < shields.size(); ++i)
-            painter.drawPixmap(i * 72 + 4, 4, SymbolTable::tinted(shields[i].first, shields[i].second, 64));
+            painter.drawPixmap(i * 72 + 4, 4,
+                               SymbolTable::tinted(shields[i].first, shields[i].second, 64));
         painter.end();
         QVERIFY(strip.save(dir + QStringLiteral("/symbols-shields.png")));
     }
@@ -71,7 +97,8 @@ private Q_SLOTS:
 
     void tintShowsOnlyWhereTheShapeIs()
     {
-        const QImage filled = SymbolTable::tinted("checkmark.shield.fill", QColor(52, 199, 89), 64).toImage();
+        const QImage filled =
+            SymbolTable::tinted("checkmark.shield.fill", QColor(52, 199, 89), 64).toImage();
         const QImage outline = SymbolTable::tinted("shield", QColor(52, 199, 89), 64).toImage();
         // Corners lie outside the shield; its middle is inside; the check mark is a hole.
         QCOMPARE(qAlpha(filled.pixel(1, 1)), 0);

@@ -22,18 +22,20 @@ namespace {
 // English texts, fake timers, and a private store behind the shared objects.
 class Rig {
 public:
-    Rig()
-        : language(settings.store(), timers, {}) {
+    Rig() : language(settings.store(), timers, {})
+    {
         SettingsStore::setStandard(&settings.store());
         LanguageManager::setShared(&language);
     }
-    ~Rig() {
+    ~Rig()
+    {
         LanguageManager::setShared(nullptr);
         SettingsStore::setStandard(nullptr);
     }
 
     std::unique_ptr<UpdateAvailableView> sheet(const QString &version, bool isBrewInstall,
-                                               std::function<void()> onDismiss = {}) {
+                                               std::function<void()> onDismiss = {})
+    {
         auto view = std::make_unique<UpdateAvailableView>(version, isBrewInstall,
                                                           std::move(onDismiss), language, timers);
         view->show();
@@ -48,7 +50,8 @@ public:
 };
 
 // Whether the copy button shows the green tick rather than the grey copy symbol.
-bool showsTick(const QToolButton &button) {
+bool showsTick(const QToolButton &button)
+{
     const QImage image = button.icon().pixmap(32, 32).toImage();
     int balance = 0;
     for (int y = 0; y < image.height(); ++y) {
@@ -61,7 +64,8 @@ bool showsTick(const QToolButton &button) {
     return balance > 0;
 }
 
-void saveScreenshot(QWidget &widget, const QString &name) {
+void saveScreenshot(QWidget &widget, const QString &name)
+{
     QVERIFY(widget.grab().save(u"/tmp/" + name + u".png"));
 }
 
@@ -70,7 +74,8 @@ void saveScreenshot(QWidget &widget, const QString &name) {
 class UpdateAvailableViewTest : public QObject {
     Q_OBJECT
 private Q_SLOTS:
-    void showsTitleMessageAndButtonOnly() {
+    void showsTitleMessageAndButtonOnly()
+    {
         Rig rig;
         auto view = rig.sheet(QStringLiteral("2.0"), false);
         QVERIFY(view);
@@ -90,7 +95,8 @@ private Q_SLOTS:
                  rig.language.localizedFormat("update_available_message", {"2.0\n# beta"}));
     }
 
-    void copiesTheHomebrewCommand() {
+    void copiesTheHomebrewCommand()
+    {
         Rig rig;
         auto view = rig.sheet(QStringLiteral("2.0"), true);
         QVERIFY(view && view->brewSection());
@@ -120,7 +126,8 @@ private Q_SLOTS:
         QVERIFY(clearings[1]->isActive());
     }
 
-    void escapeAndTheButtonDismiss() {
+    void escapeAndTheButtonDismiss()
+    {
         Rig rig;
         for (bool byEscape : {true, false}) {
             auto view = rig.sheet(QStringLiteral("2.0"), true);
@@ -139,7 +146,8 @@ private Q_SLOTS:
         QVERIFY(view->isVisible());
     }
 
-    void readsOnlyInlineMarkdown() {
+    void readsOnlyInlineMarkdown()
+    {
         const auto rich = [](const QString &markdown) {
             const auto text = InlineMarkdown::toRichText(markdown, QApplication::font());
             return text.value_or(u"refused"_qs);
@@ -150,7 +158,8 @@ private Q_SLOTS:
             QCOMPARE(rich(block), u"refused"_qs);
     }
 
-    void presenterReplacesTheSheetAndShowsUpToDate() {
+    void presenterReplacesTheSheetAndShowsUpToDate()
+    {
         Rig rig;
         UpdateDialogPresenter presenter;
         presenter.presentUpdateAvailable(QStringLiteral("2.0"), false);
