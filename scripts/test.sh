@@ -1,11 +1,16 @@
 #!/usr/bin/env bash
 # Installs what is missing, then builds and runs every test: once with warnings as
 # errors (ci preset), once under AddressSanitizer and UBSan (asan preset), and the
-# feed parser's fuzz target for a short fixed time. Every host is loopback.
+# feed parser's fuzz target for a short fixed time. Every host is loopback. First of all
+# it checks that the sources keep the project's format (.clang-format).
 set -euo pipefail
 cd "$(dirname "$0")/.."
 
 bash scripts/install-deps.sh
+
+echo "== format"
+git ls-files -z -- '*.h' '*.cpp' | xargs -0 clang-format --dry-run -Werror
+
 jobs=$(nproc)
 export XDG_RUNTIME_DIR=${XDG_RUNTIME_DIR:-$(mktemp -d)}
 chmod 700 "$XDG_RUNTIME_DIR"
