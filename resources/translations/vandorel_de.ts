@@ -61,7 +61,7 @@
     <message>
         <source>alert_browser_changed_message %@ %@</source>
         <extracomment>Body of the alert shown when the default browser no longer is the target. Arguments: 1st %@ = name of the current default browser, 2nd %@ = name of the target browser. Use %1$@ and %2$@ if your language needs another order.</extracomment>
-        <translation>Ein anderes Programm hat %@ als Ihren Standardbrowser festgelegt. Ihr bevorzugter Browser ist %@. Möchten Sie ihn wiederherstellen?</translation>
+        <translation>Ein anderes Programm hat %@ als Ihren Standardbrowser festgelegt. Ihr bevorzugter Browser ist %@. Möchten Sie ihn wieder als Standard festlegen?</translation>
     </message>
     <message>
         <source>alert_browser_changed_title</source>
@@ -81,7 +81,7 @@
     <message>
         <source>alert_email_changed_message %@ %@</source>
         <extracomment>Body of the alert shown when the default mail client no longer is the target. Arguments: 1st %@ = name of the current default mail client, 2nd %@ = name of the target mail client. Use %1$@ and %2$@ if your language needs another order.</extracomment>
-        <translation>Ein anderes Programm hat %@ als Ihr Standard-E-Mail-Programm festgelegt. Ihr bevorzugtes E-Mail-Programm ist %@. Möchten Sie es wiederherstellen?</translation>
+        <translation>Ein anderes Programm hat %@ als Ihr Standard-E-Mail-Programm festgelegt. Ihr bevorzugtes E-Mail-Programm ist %@. Möchten Sie es wieder als Standard festlegen?</translation>
     </message>
     <message>
         <source>alert_email_changed_title</source>
@@ -251,12 +251,12 @@
     <message>
         <source>status_none</source>
         <extracomment>Tray panel: shown in place of a name when no default is known.</extracomment>
-        <translation>Keiner</translation>
+        <translation>Nicht festgelegt</translation>
     </message>
     <message>
         <source>status_not_protected</source>
         <extracomment>Tray panel, status line: monitoring is off or has nothing to trigger it (shown in red).</extracomment>
-        <translation>Nicht geschützt</translation>
+        <translation>Ungeschützt</translation>
     </message>
     <message>
         <source>status_protected</source>
@@ -431,7 +431,7 @@
     <message>
         <source>general_reset_settings</source>
         <extracomment>General page, reset section: button that restores the default settings.</extracomment>
-        <translation>Einstellungen zurücksetzen</translation>
+        <translation>Alle Einstellungen zurücksetzen</translation>
     </message>
     <message>
         <source>general_reset_settings_confirm_button</source>

@@ -246,7 +246,7 @@
     <message>
         <source>status_mismatch</source>
         <extracomment>Tray panel, status line: the current default is not the target (shown in orange).</extracomment>
-        <translation>Discrepancia</translation>
+        <translation>No coincide</translation>
     </message>
     <message>
         <source>status_none</source>
@@ -341,7 +341,7 @@
     <message>
         <source>general_delete_logs</source>
         <extracomment>General page, reset section: button that deletes the change log.</extracomment>
-        <translation>Borrar el registro</translation>
+        <translation>Borrar el registro de cambios</translation>
     </message>
     <message>
         <source>general_delete_logs_confirm_button</source>
@@ -431,7 +431,7 @@
     <message>
         <source>general_reset_settings</source>
         <extracomment>General page, reset section: button that restores the default settings.</extracomment>
-        <translation>Restablecer los ajustes</translation>
+        <translation>Restablecer todos los ajustes</translation>
     </message>
     <message>
         <source>general_reset_settings_confirm_button</source>
@@ -536,7 +536,7 @@
     <message>
         <source>browser_check_interval</source>
         <extracomment>Browser page, monitoring box: label of the picker for how often to check.</extracomment>
-        <translation>Frecuencia</translation>
+        <translation>Frecuencia de comprobación</translation>
     </message>
     <message>
         <source>browser_check_on_login</source>
@@ -706,7 +706,7 @@
     <message>
         <source>email_check_interval</source>
         <extracomment>Mail page, monitoring box: label of the picker for how often to check.</extracomment>
-        <translation>Frecuencia</translation>
+        <translation>Frecuencia de comprobación</translation>
     </message>
     <message>
         <source>email_check_on_login</source>

@@ -371,7 +371,7 @@
     <message>
         <source>general_feature_2</source>
         <extracomment>General page, features list, item 2 (bell symbol).</extracomment>
-        <translation>Vous prévient lorsqu’un autre programme s’impose par défaut</translation>
+        <translation>Vous prévient lorsqu’un autre programme se définit comme application par défaut</translation>
     </message>
     <message>
         <source>general_feature_3</source>
@@ -431,7 +431,7 @@
     <message>
         <source>general_reset_settings</source>
         <extracomment>General page, reset section: button that restores the default settings.</extracomment>
-        <translation>Réinitialiser les paramètres</translation>
+        <translation>Réinitialiser tous les paramètres</translation>
     </message>
     <message>
         <source>general_reset_settings_confirm_button</source>
@@ -561,7 +561,7 @@
     <message>
         <source>browser_currently_snoozed</source>
         <extracomment>Browser page, snooze box: shown in orange while a snooze runs.</extracomment>
-        <translation>Alertes en sourdine</translation>
+        <translation>Alertes en pause</translation>
     </message>
     <message>
         <source>browser_enable_monitoring</source>
@@ -586,7 +586,7 @@
     <message>
         <source>browser_never_changed</source>
         <extracomment>Browser page, statistics box: said when no change has been detected.</extracomment>
-        <translation>Aucune modification</translation>
+        <translation>Aucune modification pour l'instant</translation>
     </message>
     <message>
         <source>browser_no_browsers</source>
@@ -626,7 +626,7 @@
     <message>
         <source>browser_reset_snooze</source>
         <extracomment>Browser page, snooze box: button that ends the running snooze.</extracomment>
-        <translation>Lever la sourdine</translation>
+        <translation>Reprendre les alertes</translation>
     </message>
     <message>
         <source>browser_select_description</source>
@@ -656,12 +656,12 @@
     <message>
         <source>browser_snooze_duration</source>
         <extracomment>Browser page, snooze box: label of the duration picker.</extracomment>
-        <translation>Durée de la sourdine</translation>
+        <translation>Durée de la pause</translation>
     </message>
     <message>
         <source>browser_snooze_title</source>
         <extracomment>Browser page: title of the snooze box.</extracomment>
-        <translation>Sourdine</translation>
+        <translation>Pause</translation>
     </message>
     <message>
         <source>browser_statistics_title</source>
@@ -731,7 +731,7 @@
     <message>
         <source>email_currently_snoozed</source>
         <extracomment>Mail page, snooze box: shown in orange while a snooze runs.</extracomment>
-        <translation>Alertes en sourdine</translation>
+        <translation>Alertes en pause</translation>
     </message>
     <message>
         <source>email_enable_monitoring</source>
@@ -756,7 +756,7 @@
     <message>
         <source>email_never_changed</source>
         <extracomment>Mail page, statistics box: said when no change has been detected.</extracomment>
-        <translation>Aucune modification</translation>
+        <translation>Aucune modification pour l'instant</translation>
     </message>
     <message>
         <source>email_no_clients</source>
@@ -796,7 +796,7 @@
     <message>
         <source>email_reset_snooze</source>
         <extracomment>Mail page, snooze box: button that ends the running snooze.</extracomment>
-        <translation>Lever la sourdine</translation>
+        <translation>Reprendre les alertes</translation>
     </message>
     <message>
         <source>email_select_description</source>
@@ -826,12 +826,12 @@
     <message>
         <source>email_snooze_duration</source>
         <extracomment>Mail page, snooze box: label of the duration picker.</extracomment>
-        <translation>Durée de la sourdine</translation>
+        <translation>Durée de la pause</translation>
     </message>
     <message>
         <source>email_snooze_title</source>
         <extracomment>Mail page: title of the snooze box.</extracomment>
-        <translation>Sourdine</translation>
+        <translation>Pause</translation>
     </message>
     <message>
         <source>email_statistics_title</source>
@@ -891,7 +891,7 @@
     <message>
         <source>log_empty_title</source>
         <extracomment>Log page: title of the empty state.</extracomment>
-        <translation>Aucune modification</translation>
+        <translation>Aucune modification pour l'instant</translation>
     </message>
     <message>
         <source>log_export</source>

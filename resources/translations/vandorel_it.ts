@@ -431,7 +431,7 @@
     <message>
         <source>general_reset_settings</source>
         <extracomment>General page, reset section: button that restores the default settings.</extracomment>
-        <translation>Ripristina le impostazioni</translation>
+        <translation>Ripristina tutte le impostazioni</translation>
     </message>
     <message>
         <source>general_reset_settings_confirm_button</source>
@@ -586,7 +586,7 @@
     <message>
         <source>browser_never_changed</source>
         <extracomment>Browser page, statistics box: said when no change has been detected.</extracomment>
-        <translation>Nessuna modifica</translation>
+        <translation>Ancora nessuna modifica</translation>
     </message>
     <message>
         <source>browser_no_browsers</source>
@@ -676,7 +676,7 @@
     <message>
         <source>browser_stop</source>
         <extracomment>Browser page, target box: small red button that cancels a running change.</extracomment>
-        <translation>Ferma</translation>
+        <translation>Interrompi</translation>
     </message>
     <message>
         <source>browser_target_title</source>
@@ -756,7 +756,7 @@
     <message>
         <source>email_never_changed</source>
         <extracomment>Mail page, statistics box: said when no change has been detected.</extracomment>
-        <translation>Nessuna modifica</translation>
+        <translation>Ancora nessuna modifica</translation>
     </message>
     <message>
         <source>email_no_clients</source>
@@ -846,7 +846,7 @@
     <message>
         <source>email_stop</source>
         <extracomment>Mail page, target box: small red button that cancels a running change.</extracomment>
-        <translation>Ferma</translation>
+        <translation>Interrompi</translation>
     </message>
     <message>
         <source>email_target_title</source>
@@ -891,7 +891,7 @@
     <message>
         <source>log_empty_title</source>
         <extracomment>Log page: title of the empty state.</extracomment>
-        <translation>Nessuna modifica</translation>
+        <translation>Ancora nessuna modifica</translation>
     </message>
     <message>
         <source>log_export</source>

@@ -256,17 +256,17 @@
     <message>
         <source>status_not_protected</source>
         <extracomment>Tray panel, status line: monitoring is off or has nothing to trigger it (shown in red).</extracomment>
-        <translation>保護されていません</translation>
+        <translation>保護なし</translation>
     </message>
     <message>
         <source>status_protected</source>
         <extracomment>Tray panel, status line: monitoring is on (shown in green).</extracomment>
-        <translation>保護されています</translation>
+        <translation>保護中</translation>
     </message>
     <message>
         <source>status_should_be %@</source>
         <extracomment>Tray panel, status row, shown on a mismatch. %@ = name of the target browser or mail client.</extracomment>
-        <translation>本来は %@</translation>
+        <translation>指定：%@</translation>
     </message>
     <message>
         <source>tab_browser</source>
@@ -456,7 +456,7 @@
     <message>
         <source>general_reset_update_reminder_snooze</source>
         <extracomment>General page, reset section: button that ends the snooze of update reminders, so they show again.</extracomment>
-        <translation>アップデートの通知をリセット</translation>
+        <translation>アップデートの通知を再開</translation>
     </message>
     <message>
         <source>general_settings_title</source>
@@ -946,7 +946,7 @@
     <message>
         <source>about_rights</source>
         <extracomment>About window footer, under the copyright line.</extracomment>
-        <translation>無断複写・転載を禁じます。</translation>
+        <translation>All rights reserved.</translation>
     </message>
     <message>
         <source>about_support</source>

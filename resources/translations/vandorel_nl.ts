@@ -326,7 +326,7 @@
     <message>
         <source>general_check_at_startup</source>
         <extracomment>General page, updates: label of the switch for an update check when the program starts.</extracomment>
-        <translation>Controleren bij opstarten</translation>
+        <translation>Controleren bij het starten</translation>
     </message>
     <message>
         <source>general_check_for_updates</source>
@@ -336,7 +336,7 @@
     <message>
         <source>general_colored_icon</source>
         <extracomment>General page, settings: label of the switch that shows the tray icon in color.</extracomment>
-        <translation>Pictogram in kleur</translation>
+        <translation>Systeemvakpictogram in kleur</translation>
     </message>
     <message>
         <source>general_delete_logs</source>
@@ -366,7 +366,7 @@
     <message>
         <source>general_feature_1</source>
         <extracomment>General page, features list, item 1 (shield symbol).</extracomment>
-        <translation>Houdt je standaardbrowser en e-mailprogramma zoals je ze hebt gekozen</translation>
+        <translation>Zorgt dat je standaardbrowser en e-mailprogramma blijven zoals je ze hebt gekozen</translation>
     </message>
     <message>
         <source>general_feature_2</source>

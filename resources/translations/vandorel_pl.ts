@@ -76,7 +76,7 @@
     <message>
         <source>alert_button_keep %@</source>
         <extracomment>Second button of both change alerts: keeps the new default and snoozes the alerts. %@ = name of the current (new) default browser or mail client.</extracomment>
-        <translation>Na razie zostaw %@</translation>
+        <translation>Na razie zachowaj %@</translation>
     </message>
     <message>
         <source>alert_email_changed_message %@ %@</source>
@@ -936,7 +936,7 @@
     <message>
         <source>about_copyright %lld</source>
         <extracomment>About window footer. %lld = the current year (an integer, written without digit grouping).</extracomment>
-        <translation>Prawa autorskie © %lld</translation>
+        <translation>Copyright © %lld</translation>
     </message>
     <message>
         <source>about_description</source>

@@ -181,7 +181,7 @@
     <message>
         <source>feedback_tag_other</source>
         <extracomment>Feedback page, category button: anything else.</extracomment>
-        <translation>Outro</translation>
+        <translation>Outros</translation>
     </message>
     <message>
         <source>feedback_tag_translation</source>
@@ -431,7 +431,7 @@
     <message>
         <source>general_reset_settings</source>
         <extracomment>General page, reset section: button that restores the default settings.</extracomment>
-        <translation>Redefinir configurações</translation>
+        <translation>Redefinir todas as configurações</translation>
     </message>
     <message>
         <source>general_reset_settings_confirm_button</source>
@@ -536,7 +536,7 @@
     <message>
         <source>browser_check_interval</source>
         <extracomment>Browser page, monitoring box: label of the picker for how often to check.</extracomment>
-        <translation>Frequência</translation>
+        <translation>Frequência de verificação</translation>
     </message>
     <message>
         <source>browser_check_on_login</source>
@@ -586,7 +586,7 @@
     <message>
         <source>browser_never_changed</source>
         <extracomment>Browser page, statistics box: said when no change has been detected.</extracomment>
-        <translation>Nenhuma alteração</translation>
+        <translation>Nenhuma alteração ainda</translation>
     </message>
     <message>
         <source>browser_no_browsers</source>
@@ -706,7 +706,7 @@
     <message>
         <source>email_check_interval</source>
         <extracomment>Mail page, monitoring box: label of the picker for how often to check.</extracomment>
-        <translation>Frequência</translation>
+        <translation>Frequência de verificação</translation>
     </message>
     <message>
         <source>email_check_on_login</source>
@@ -756,7 +756,7 @@
     <message>
         <source>email_never_changed</source>
         <extracomment>Mail page, statistics box: said when no change has been detected.</extracomment>
-        <translation>Nenhuma alteração</translation>
+        <translation>Nenhuma alteração ainda</translation>
     </message>
     <message>
         <source>email_no_clients</source>
@@ -891,7 +891,7 @@
     <message>
         <source>log_empty_title</source>
         <extracomment>Log page: title of the empty state.</extracomment>
-        <translation>Nenhuma alteração</translation>
+        <translation>Nenhuma alteração ainda</translation>
     </message>
     <message>
         <source>log_export</source>

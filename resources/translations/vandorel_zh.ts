@@ -261,7 +261,7 @@
     <message>
         <source>status_protected</source>
         <extracomment>Tray panel, status line: monitoring is on (shown in green).</extracomment>
-        <translation>已受保护</translation>
+        <translation>受保护</translation>
     </message>
     <message>
         <source>status_should_be %@</source>
@@ -456,7 +456,7 @@
     <message>
         <source>general_reset_update_reminder_snooze</source>
         <extracomment>General page, reset section: button that ends the snooze of update reminders, so they show again.</extracomment>
-        <translation>重置更新提醒</translation>
+        <translation>恢复更新提醒</translation>
     </message>
     <message>
         <source>general_settings_title</source>
@@ -931,7 +931,7 @@
     <message>
         <source>about_contact</source>
         <extracomment>About window: link row that writes a mail to the maker.</extracomment>
-        <translation>联系</translation>
+        <translation>联系我们</translation>
     </message>
     <message>
         <source>about_copyright %lld</source>
