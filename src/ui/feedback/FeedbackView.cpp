@@ -2,11 +2,13 @@
 
 #include "core/i18n/LanguageManager.h"
 #include "core/telemetry/AptabaseManager.h"
+#include "ui/Colours.h"
 #include "ui/LocalizedText.h"
 #include "ui/feedback/FeedbackTagButton.h"
 #include "ui/feedback/FeedbackTagGrid.h"
 #include "ui/feedback/FeedbackTextBox.h"
 #include "ui/feedback/MoodButton.h"
+#include "ui/widgets/BusySpinner.h"
 
 #include <QHBoxLayout>
 #include <QMessageBox>
@@ -21,7 +23,6 @@
 
 namespace {
 
-const QColor limitOrange(0xFF, 0x95, 0x00);
 constexpr int spinnerSize = 14;
 
 QFont scaledFont(QFont font, double factor, QFont::Weight weight)
@@ -44,10 +45,7 @@ QIcon spinnerIcon(double angle, const QColor &colour, qreal ratio)
     pixmap.setDevicePixelRatio(ratio);
     pixmap.fill(Qt::transparent);
     QPainter painter(&pixmap);
-    painter.setRenderHint(QPainter::Antialiasing);
-    painter.setPen(QPen(colour, 2.0, Qt::SolidLine, Qt::RoundCap));
-    const QRectF circle(1.5, 1.5, spinnerSize - 3.0, spinnerSize - 3.0);
-    painter.drawArc(circle, int(-angle * 16), 270 * 16);
+    BusySpinner::paintArc(painter, QRectF(0, 0, spinnerSize, spinnerSize), angle, colour);
     return QIcon(pixmap);
 }
 
@@ -348,7 +346,7 @@ void FeedbackView::applyColours()
     }
     QColor counterColour = secondary;
     if (counterAtLimit())
-        counterColour = limitOrange;
+        counterColour = StateColour::orange;
     else
         counterColour.setAlphaF(secondary.alphaF() * 0.7f);
     QPalette counterPalette = m_counter->palette();
