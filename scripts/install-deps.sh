@@ -8,7 +8,7 @@ packages=(
   qt6-base-dev qt6-base-dev-tools qt6-tools-dev qt6-tools-dev-tools qt6-l10n-tools qt6-svg-dev
   libicu-dev bootstrap-icons
   xvfb xauth x11-utils trayer xdotool dbus dbus-x11 xdg-utils libglib2.0-bin desktop-file-utils
-  imagemagick fonts-dejavu-core fonts-noto-color-emoji
+  imagemagick fonts-dejavu-core fonts-noto-color-emoji fonts-noto-cjk
   clang libclang-rt-14-dev python3
 )
 
