@@ -4,6 +4,7 @@
 #include "core/changelog/LogManager.h"
 #include "core/guard/BrowserManager.h"
 #include "core/guard/EmailClientManager.h"
+#include "core/i18n/LanguageManager.h"
 #include "core/settings/SettingsStore.h"
 #include "core/support/Console.h"
 #include "core/support/QtTimerFactory.h"
@@ -11,8 +12,8 @@
 #include "core/telemetry/AptabaseManager.h"
 #include "core/updates/UpdateManager.h"
 #include "platform/PlatformBackend.h"
-#include "ui/MessageBoxAlertPresenter.h"
-#include "ui/UpdateDialogPresenter.h"
+#include "ui/MessageBoxPrompter.h"
+#include "ui/UpdateSheetDialogPresenter.h"
 
 #include "aptabase/Aptabase.h"
 
@@ -35,19 +36,25 @@ VandorelApp::VandorelApp(const Options &options)
                     Aptabase::shared().startPolling();
             });
     connect(qApp, &QCoreApplication::aboutToQuit, this, [] { Aptabase::shared().stopPolling(); });
-    UpdateManager::shared().setPresenter(std::make_shared<UpdateDialogPresenter>());
+    m_prompter = std::make_unique<MessageBoxPrompter>();
+    m_updateSheet = std::make_unique<UpdateSheetDialogPresenter>();
+    UpdateManager::Options updates = UpdateManager::defaultOptions();
+    updates.sheet = m_updateSheet.get();
+    updates.prompter = m_prompter.get();
+    updates.language = &LanguageManager::shared();
+    // Process-wide from here on, as the shared manager is.
+    UpdateManager::setShared(new UpdateManager(updates));
 
     m_handlers = PlatformBackend::createHandlerDatabase();
     m_clock = std::make_unique<SystemClock>();
     m_timers = std::make_unique<QtTimerFactory>();
     m_events = PlatformBackend::createSystemEvents();
-    m_alerts = std::make_unique<MessageBoxAlertPresenter>();
     m_environment.settings = &SettingsStore::standard();
     m_environment.handlers = m_handlers.get();
     m_environment.clock = m_clock.get();
     m_environment.timers = m_timers.get();
     m_environment.events = m_events.get();
-    m_environment.alerts = m_alerts.get();
+    m_environment.alerts = m_prompter.get();
     m_environment.log = &LogManager::shared();
     m_environment.launchedAtLogin = options.launchedAtLogin;
 

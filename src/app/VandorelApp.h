@@ -6,15 +6,16 @@
 
 #include <memory>
 
-class AlertPresenter;
 class AppDelegate;
 class BrowserManager;
 class Clock;
 class EmailClientManager;
 class HandlerDatabase;
+class ModalPrompter;
 class SingleInstance;
 class SystemEvents;
 class TimerFactory;
+class UpdateSheetPresenter;
 
 // Builds and wires the running program: refuses a second copy, starts the process-wide
 // services, constructs both guards and hands the life-cycle call-backs to AppDelegate.
@@ -35,11 +36,12 @@ private:
     void ensureSingleInstance();
 
     std::unique_ptr<SingleInstance> m_singleInstance;
+    std::unique_ptr<ModalPrompter> m_prompter;
+    std::unique_ptr<UpdateSheetPresenter> m_updateSheet;
     std::unique_ptr<HandlerDatabase> m_handlers;
     std::unique_ptr<Clock> m_clock;
     std::unique_ptr<TimerFactory> m_timers;
     std::unique_ptr<SystemEvents> m_events;
-    std::unique_ptr<AlertPresenter> m_alerts;
     GuardEnvironment m_environment;
     std::unique_ptr<BrowserManager> m_browserManager;
     std::unique_ptr<EmailClientManager> m_emailClientManager;

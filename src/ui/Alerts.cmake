@@ -1,4 +1,4 @@
-# The guards' change alerts.
+# The message boxes of the program's modal prompts.
 target_sources(vandorel_ui PRIVATE
-  MessageBoxAlertPresenter.h MessageBoxAlertPresenter.cpp
+  MessageBoxPrompter.h MessageBoxPrompter.cpp
 )

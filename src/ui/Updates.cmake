@@ -1,6 +1,6 @@
-# The update sheet and the windows of the program's own updater.
+# The update sheet, and how the program's own updater shows it.
 target_sources(vandorel_ui PRIVATE
   InlineMarkdown.h InlineMarkdown.cpp
   UpdateAvailableView.h UpdateAvailableView.cpp
-  UpdateDialogPresenter.h UpdateDialogPresenter.cpp
+  UpdateSheetDialogPresenter.h UpdateSheetDialogPresenter.cpp
 )

@@ -1,9 +1,9 @@
 #pragma once
 
-class AlertPresenter;
 class Clock;
 class HandlerDatabase;
 class LogManager;
+class ModalPrompter;
 class SettingsStore;
 class SystemEvents;
 class TimerFactory;
@@ -14,7 +14,7 @@ struct GuardEnvironment {
     HandlerDatabase *handlers = nullptr;
     Clock *clock = nullptr;
     TimerFactory *timers = nullptr;
-    AlertPresenter *alerts = nullptr;
+    ModalPrompter *alerts = nullptr; // the change alerts
     LogManager *log = nullptr;
     SystemEvents *events = nullptr; // may be absent: no event then runs a check
     // The program was started by the login mechanism (the autostart entry's --login).

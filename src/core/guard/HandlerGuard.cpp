@@ -11,6 +11,7 @@
 #include "core/support/TimerFactory.h"
 #include "core/telemetry/AptabaseManager.h"
 #include "platform/HandlerDatabase.h"
+#include "platform/ModalPrompter.h"
 #include "platform/SystemEvents.h"
 
 #include <QCoreApplication>
@@ -28,7 +29,7 @@ HandlerGuard::HandlerGuard(const GuardProfile &profile, const GuardEnvironment &
       m_settings(profile, *environment.settings), m_resolver(profile, *environment.handlers)
 {
     if (m_env.alerts)
-        connect(m_env.alerts, &AlertPresenter::presentingChanged, this,
+        connect(m_env.alerts, &ModalPrompter::presentingChanged, this,
                 &HandlerGuard::alertsPresentingChanged);
     setDefaultsIfNeeded();
     detectInstalled();
@@ -433,25 +434,28 @@ void HandlerGuard::showChangedAlert(const HandlerRecord &current, const HandlerR
     if (!m_env.alerts)
         return;
     const LanguageManager &language = LanguageManager::shared();
-    AlertPresenter::Alert alert;
+    ModalPrompt alert;
     alert.title = language.localizedString(m_profile.alertTitleKey);
     alert.text = TextFormat::format(language.localizedString(m_profile.alertMessageKey),
                                     {current.name, target.name});
-    alert.firstButton = language.localizedString(QStringLiteral("alert_button_change_back"));
-    alert.secondButton = TextFormat::format(
-        language.localizedString(QStringLiteral("alert_button_keep %@")), {current.name});
+    alert.buttons = {
+        language.localizedString(QStringLiteral("alert_button_change_back")),
+        TextFormat::format(language.localizedString(QStringLiteral("alert_button_keep %@")),
+                           {current.name})};
     alert.symbolName = QStringLiteral("exclamationmark.shield");
+    alert.style = ModalPrompt::Style::warning;
     // Each call queues its own alert; the answer goes to this guard if it still exists.
     QPointer<HandlerGuard> guard(this);
-    m_env.alerts->present(alert, [guard, target](AlertPresenter::Answer answer) {
+    m_env.alerts->present(alert, [guard, target](int button) {
         if (guard)
-            guard->alertAnswered(answer, target);
+            guard->alertAnswered(button, target);
     });
 }
 
-void HandlerGuard::alertAnswered(AlertPresenter::Answer answer, const HandlerRecord &target)
+// The first button changes the default back; any other answer keeps it for now.
+void HandlerGuard::alertAnswered(int button, const HandlerRecord &target)
 {
-    if (answer == AlertPresenter::Answer::first) {
+    if (button == 0) {
         AptabaseManager::trackAlertAction(m_profile.alertType, QStringLiteral("fix"));
         setDefault(target);
     } else {

@@ -7,7 +7,6 @@
 #include "core/guard/GuardSettings.h"
 #include "core/guard/HandlerRecord.h"
 #include "core/guard/SnoozeDuration.h"
-#include "platform/AlertPresenter.h"
 
 #include <QDateTime>
 #include <QList>
@@ -102,7 +101,7 @@ private:
     void trackSetting(QStringView name, const QString &value) const;
 
     void showChangedAlert(const HandlerRecord &current, const HandlerRecord &target);
-    void alertAnswered(AlertPresenter::Answer answer, const HandlerRecord &target);
+    void alertAnswered(int button, const HandlerRecord &target);
 
     void setInstalled(const QList<HandlerRecord> &records);
     void setCurrentDefault(const std::optional<HandlerRecord> &record);

@@ -1,19 +1,29 @@
 #include "core/updates/AppcastUpdaterController.h"
 
-#include "core/updates/UpdateManager.h"
-#include "core/updates/UpdatePresenter.h"
+#include "core/i18n/LanguageManager.h"
+#include "core/updates/UpdateSheetPresenter.h"
+#include "platform/ModalPrompter.h"
 
 void AppcastUpdaterController::checkForUpdates()
 {
-    // The manager owns this controller and answers only while it lives.
-    UpdateManager &manager = m_manager;
-    manager.checkForUpdates([&manager](bool available, const std::optional<QString> &version) {
-        const std::shared_ptr<UpdatePresenter> presenter = manager.presenter();
-        if (!presenter)
-            return;
-        if (available && version)
-            presenter->presentUpdateAvailable(*version, manager.isBrewInstall());
-        else
-            presenter->presentNoUpdate();
+    // The owner of this controller answers only while it lives.
+    m_services.check([this](bool available, const std::optional<QString> &version) {
+        if (!available || !version)
+            presentNoUpdate();
+        else if (m_services.sheet)
+            m_services.sheet->presentUpdateAvailable(*version, false);
     });
+}
+
+void AppcastUpdaterController::presentNoUpdate()
+{
+    if (!m_services.prompter || !m_services.language)
+        return;
+    const LanguageManager &language = *m_services.language;
+    ModalPrompt prompt;
+    prompt.title = language.localizedString(QStringLiteral("update_no_updates_title"));
+    prompt.text = language.localizedString(QStringLiteral("update_no_updates_message"));
+    prompt.buttons = {language.localizedString(QStringLiteral("general_ok"))};
+    prompt.symbolName = QStringLiteral("checkmark.circle.fill");
+    m_services.prompter->present(prompt, {});
 }

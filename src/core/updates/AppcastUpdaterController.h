@@ -2,14 +2,32 @@
 
 #include "core/updates/UpdaterController.h"
 
-class UpdateManager;
+#include <QString>
 
-// The updater of a platform without a native one: a check reads the appcast and shows the
-// update sheet when a newer version exists, else the up-to-date message, through the
-// manager's presenter.
+#include <functional>
+#include <optional>
+
+class LanguageManager;
+class ModalPrompter;
+class UpdateSheetPresenter;
+
+// The updater of a platform without a native one, on an install that Homebrew does not
+// manage: a check reads the appcast and shows the update sheet when a newer version exists,
+// else tells in a prompt that this copy is up to date.
 class AppcastUpdaterController final : public UpdaterController {
 public:
-    explicit AppcastUpdaterController(UpdateManager &manager) : m_manager(manager) {}
+    using Answer = std::function<void(bool available, const std::optional<QString> &version)>;
+    // Reads the feed and answers once, on the main thread.
+    using Check = std::function<void(Answer)>;
+
+    struct Services {
+        Check check;
+        UpdateSheetPresenter *sheet = nullptr;     // none shows no sheet
+        ModalPrompter *prompter = nullptr;         // none shows no prompt
+        const LanguageManager *language = nullptr; // the prompt's texts
+    };
+
+    explicit AppcastUpdaterController(Services services) : m_services(std::move(services)) {}
 
     void startUpdater() override { m_started = true; }
     void checkForUpdates() override;
@@ -17,6 +35,8 @@ public:
     bool isStarted() const { return m_started; }
 
 private:
-    UpdateManager &m_manager;
+    void presentNoUpdate();
+
+    Services m_services;
     bool m_started = false;
 };

@@ -9,7 +9,6 @@
 #include "core/updates/AppcastInput.h"
 #include "core/updates/AppcastParser.h"
 #include "core/updates/AppcastUpdaterController.h"
-#include "core/updates/UpdatePresenter.h"
 #include "core/updates/VersionOrder.h"
 
 #include "BuildConfig.h"
@@ -105,17 +104,21 @@ UpdaterController *UpdateManager::sparkleUpdaterController()
     if (!m_controllerMade) {
         m_controllerMade = true;
         if (!isBrewInstall()) {
-            m_sparkleUpdaterController = m_options.makeController
-                                             ? m_options.makeController(*this)
-                                             : std::make_unique<AppcastUpdaterController>(*this);
+            m_sparkleUpdaterController =
+                m_options.makeController ? m_options.makeController() : makeAppcastUpdater();
         }
     }
     return m_sparkleUpdaterController.get();
 }
 
-void UpdateManager::setPresenter(std::shared_ptr<UpdatePresenter> presenter)
+std::unique_ptr<UpdaterController> UpdateManager::makeAppcastUpdater()
 {
-    m_presenter = std::move(presenter);
+    AppcastUpdaterController::Services services;
+    services.check = [this](Completion completion) { checkForUpdates(std::move(completion)); };
+    services.sheet = m_options.sheet;
+    services.prompter = m_options.prompter;
+    services.language = m_options.language;
+    return std::make_unique<AppcastUpdaterController>(std::move(services));
 }
 
 bool UpdateManager::checkForUpdatesWithSparkle()

@@ -12,12 +12,14 @@
 #include <optional>
 
 class Clock;
+class LanguageManager;
+class ModalPrompter;
 class QNetworkAccessManager;
 class QNetworkReply;
 class SettingsStore;
 class Timer;
 class TimerFactory;
-class UpdatePresenter;
+class UpdateSheetPresenter;
 class UpdaterController;
 
 // Decides how this copy gets its updates and keeps the automatic reminder from nagging.
@@ -28,7 +30,7 @@ class UpdateManager : public QObject {
 public:
     // Whether an update is available, and its version if so.
     using Completion = std::function<void(bool available, const std::optional<QString> &version)>;
-    using ControllerFactory = std::function<std::unique_ptr<UpdaterController>(UpdateManager &)>;
+    using ControllerFactory = std::function<std::unique_ptr<UpdaterController>()>;
 
     struct Options {
         SettingsStore *settings = nullptr;
@@ -40,8 +42,12 @@ public:
         QString installPath;
         // Homebrew prefixes, searched in order for a Caskroom folder of ours.
         QStringList brewPrefixes;
-        // Makes the updater controller; empty means the program's own appcast updater.
+        // Makes the updater controller; empty means the program's own appcast updater, which
+        // shows its findings through these (each may be absent: it then shows nothing).
         ControllerFactory makeController;
+        UpdateSheetPresenter *sheet = nullptr;
+        ModalPrompter *prompter = nullptr;
+        const LanguageManager *language = nullptr;
     };
 
     // What a finished feed request brought, before it is judged.
@@ -85,10 +91,6 @@ public:
     // Made on first read; none on a Homebrew install.
     UpdaterController *sparkleUpdaterController();
 
-    // Where the program's own updater shows its findings; none shows nothing.
-    void setPresenter(std::shared_ptr<UpdatePresenter> presenter);
-    std::shared_ptr<UpdatePresenter> presenter() const { return m_presenter; }
-
     QUrl appcastURL() const { return m_options.appcastURL; }
     bool isSparkleCheckInProgress() const { return m_isSparkleCheckInProgress; }
 
@@ -100,6 +102,7 @@ public:
     static bool detectBrewInstall(const QString &installPath, const QStringList &brewPrefixes);
 
 private:
+    std::unique_ptr<UpdaterController> makeAppcastUpdater();
     void scheduleSparkleReset();
     void snoozeAutoReminder(const QString &version, double hours);
     bool isSnoozed(const QString &version) const;
@@ -116,5 +119,4 @@ private:
     bool m_isSparkleCheckInProgress = false;
     QPointer<Timer> m_sparkleResetWorkItem;
     std::optional<bool> m_isBrewInstall;
-    std::shared_ptr<UpdatePresenter> m_presenter;
 };

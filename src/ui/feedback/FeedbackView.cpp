@@ -2,6 +2,7 @@
 
 #include "core/i18n/LanguageManager.h"
 #include "core/telemetry/AptabaseManager.h"
+#include "platform/ModalPrompter.h"
 #include "ui/Colours.h"
 #include "ui/LocalizedText.h"
 #include "ui/feedback/FeedbackTagButton.h"
@@ -11,7 +12,6 @@
 #include "ui/widgets/BusySpinner.h"
 
 #include <QHBoxLayout>
-#include <QMessageBox>
 #include <QPainter>
 #include <QPlainTextEdit>
 #include <QPointer>
@@ -51,18 +51,12 @@ QIcon spinnerIcon(double angle, const QColor &colour, qreal ratio)
 
 } // namespace
 
-FeedbackView::FeedbackView(QWidget *parent)
-    : FeedbackView(FeedbackForm::defaultOptions(), LanguageManager::shared(), parent)
-{
-}
-
 FeedbackView::FeedbackView(FeedbackForm::Options options, LanguageManager &language,
-                           QWidget *parent)
-    : QWidget(parent), m_language(language), m_form([&] {
+                           ModalPrompter &prompter, QWidget *parent)
+    : QWidget(parent), m_language(language), m_prompter(prompter), m_form([&] {
           options.language = &language;
           return options;
-      }()),
-      m_presentAlert(messageBoxPresenter())
+      }())
 {
     auto *column = new QWidget;
     column->setMaximumWidth(contentMaxWidth);
@@ -266,25 +260,24 @@ void FeedbackView::showSendButton()
 
 void FeedbackView::presentPendingAlert()
 {
-    if (m_alertUp || !m_presentAlert)
+    if (m_alertUp)
         return;
     const bool success = m_form.showSuccessAlert();
     if (!success && !m_form.showErrorAlert())
         return;
-    Alert alert;
-    alert.buttonText = text("general_ok");
+    ModalPrompt alert;
+    alert.buttons = {text("general_ok")};
     if (success) {
-        alert.kind = AlertKind::success;
         alert.title = text("feedback_sent_title");
-        alert.message = text("feedback_sent_message");
+        alert.text = text("feedback_sent_message");
     } else {
-        alert.kind = AlertKind::error;
+        alert.style = ModalPrompt::Style::warning;
         alert.title = text("feedback_error_title");
-        alert.message = m_form.errorMessage().isEmpty() ? text("feedback_error_message")
-                                                        : m_form.errorMessage();
+        alert.text = m_form.errorMessage().isEmpty() ? text("feedback_error_message")
+                                                     : m_form.errorMessage();
     }
     m_alertUp = true;
-    m_presentAlert(*this, alert, [page = QPointer<FeedbackView>(this), success] {
+    m_prompter.present(alert, [page = QPointer<FeedbackView>(this), success](int) {
         if (!page)
             return;
         page->m_alertUp = false;
@@ -294,21 +287,6 @@ void FeedbackView::presentPendingAlert()
             page->m_form.setShowErrorAlert(false);
         page->presentPendingAlert();
     });
-}
-
-FeedbackView::AlertPresenter FeedbackView::messageBoxPresenter()
-{
-    return [](FeedbackView &page, const Alert &alert, std::function<void()> dismissed) {
-        const auto icon =
-            alert.kind == AlertKind::success ? QMessageBox::Information : QMessageBox::Warning;
-        auto *box = new QMessageBox(icon, alert.title, alert.message, QMessageBox::NoButton, &page);
-        box->setTextFormat(Qt::PlainText);
-        box->addButton(alert.buttonText, QMessageBox::AcceptRole);
-        box->setAttribute(Qt::WA_DeleteOnClose);
-        box->setWindowModality(Qt::WindowModal);
-        QObject::connect(box, &QDialog::finished, &page, [dismissed] { dismissed(); });
-        box->open();
-    };
 }
 
 void FeedbackView::showEvent(QShowEvent *event)

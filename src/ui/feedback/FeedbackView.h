@@ -6,12 +6,12 @@
 #include <QVariantAnimation>
 #include <QWidget>
 
-#include <functional>
 #include <optional>
 
 class FeedbackTagButton;
 class FeedbackTextBox;
 class LanguageManager;
+class ModalPrompter;
 class MoodButton;
 class QLabel;
 class QPlainTextEdit;
@@ -19,35 +19,20 @@ class QPushButton;
 
 // The feedback page: a heading, a row of moods, a text box with its counter, the categories
 // and a send button, over a FeedbackForm that holds the state and sends it. Stands alone
-// as a widget, and is a page of the settings window.
+// as a widget, and is a page of the settings window. Its success and error alerts go
+// through the program's prompter.
 class FeedbackView : public QWidget {
     Q_OBJECT
 public:
-    enum class AlertKind { success, error };
-    struct Alert {
-        AlertKind kind;
-        QString title;
-        QString message;
-        QString buttonText;
-    };
-    // Shows `alert` over `page` without blocking, and calls `dismissed` once it is answered.
-    using AlertPresenter = std::function<void(FeedbackView &page, const Alert &alert,
-                                              std::function<void()> dismissed)>;
-
     static constexpr int contentMaxWidth = 520;
     static constexpr const char *screenName = "settings_feedback";
 
-    explicit FeedbackView(QWidget *parent = nullptr);
-    FeedbackView(FeedbackForm::Options options, LanguageManager &language,
+    FeedbackView(FeedbackForm::Options options, LanguageManager &language, ModalPrompter &prompter,
                  QWidget *parent = nullptr);
 
     FeedbackForm &form() { return m_form; }
     bool canSend() const { return m_form.canSend(); }
     std::optional<int> hoveredMoodIndex() const { return m_hoveredMoodIndex; }
-
-    // Replaces the message boxes, which are window-modal and open without blocking.
-    void setAlertPresenter(AlertPresenter presenter) { m_presentAlert = std::move(presenter); }
-    static AlertPresenter messageBoxPresenter();
 
     MoodButton *moodButton(int index) const { return m_moodButtons.value(index); }
     QPlainTextEdit *textEdit() const;
@@ -76,8 +61,8 @@ private:
     QString text(const char *key) const;
 
     LanguageManager &m_language;
+    ModalPrompter &m_prompter;
     FeedbackForm m_form;
-    AlertPresenter m_presentAlert;
     std::optional<int> m_hoveredMoodIndex;
     bool m_alertUp = false;
     bool m_editing = false;

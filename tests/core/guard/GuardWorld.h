@@ -4,7 +4,7 @@
 #include "FakeClock.h"
 #include "FakeHandlerDatabase.h"
 #include "FakeTimerFactory.h"
-#include "ScriptedAlertPresenter.h"
+#include "ScriptedPrompter.h"
 #include "TempSettings.h"
 #include "core/changelog/LogManager.h"
 #include "core/guard/GuardEnvironment.h"
@@ -24,12 +24,15 @@ using namespace std::chrono_literals;
 struct GuardWorld {
     static constexpr std::chrono::milliseconds tenMinutes = 600s;
     static constexpr std::chrono::milliseconds pollPeriod = 1s;
+    // The buttons of the change alert.
+    static constexpr int changeBack = 0;
+    static constexpr int keep = 1;
 
     TempSettings settings;
     FakeHandlerDatabase handlers;
     FakeClock clock;
     FakeTimerFactory timers;
-    ScriptedAlertPresenter alerts;
+    ScriptedPrompter alerts;
     SystemEvents events;
     LogManager log{settings.store(), clock};
     std::unique_ptr<LanguageManager> language;
@@ -91,5 +94,5 @@ struct GuardWorld {
                 starts += timer->starts();
         return starts;
     }
-    static void settle() { ScriptedAlertPresenter::settle(); }
+    static void settle() { ScriptedPrompter::settle(); }
 };

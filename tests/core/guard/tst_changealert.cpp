@@ -7,8 +7,6 @@
 class ChangeAlertTest : public QObject {
     Q_OBJECT
 
-    using Answer = AlertPresenter::Answer;
-
     static Browser firefox() { return Browser("Firefox", "firefox-esr"); }
 
     // A browser guard guarding Firefox while Chromium has taken over, its first alert up.
@@ -34,7 +32,7 @@ private Q_SLOTS:
 
         world.clock.advance(5);
         const QDateTime answeredAt = world.clock.now();
-        QVERIFY(world.alerts.answer(Answer::second));
+        QVERIFY(world.alerts.answer(GuardWorld::keep));
         QVERIFY(browser.isSnoozed());
         QCOMPARE(browser.snoozeUntil(), answeredAt.addSecs(3600));
         QVERIFY(world.handlers.setCalls().isEmpty());
@@ -68,7 +66,7 @@ private Q_SLOTS:
         Incident incident;
         auto &[world, browser] = incident;
         ConsoleCapture console;
-        QVERIFY(world.alerts.answer(Answer::first));
+        QVERIFY(world.alerts.answer(GuardWorld::changeBack));
         QVERIFY(browser.isChangingBrowser());
         QVERIFY(world.waitForPolling());
         world.poll();
@@ -83,7 +81,7 @@ private Q_SLOTS:
         Incident incident;
         auto &[world, browser] = incident;
         browser.setSnoozeDuration(SnoozeDuration::fifteenMinutes);
-        QVERIFY(world.alerts.answer(Answer::second));
+        QVERIFY(world.alerts.answer(GuardWorld::keep));
         const QDateTime until = *browser.snoozeUntil();
         browser.setCheckInterval(CheckInterval::none); // no timer: nothing will end the snooze
         QCOMPARE(browser.browserChangeCount(), 1);
@@ -108,7 +106,7 @@ private Q_SLOTS:
     {
         Incident incident;
         auto &[world, browser] = incident;
-        QVERIFY(world.alerts.answer(Answer::second));
+        QVERIFY(world.alerts.answer(GuardWorld::keep));
         const auto until = browser.snoozeUntil();
         world.clock.advance(60);
 
@@ -134,16 +132,16 @@ private Q_SLOTS:
         QCOMPARE(world.alerts.pendingCount(), 1);
 
         // Each answer goes to its own alert; the next comes only after the first is gone.
-        QVERIFY(world.alerts.answer(Answer::second));
+        QVERIFY(world.alerts.answer(GuardWorld::keep));
         QVERIFY(!world.alerts.isPresenting());
         GuardWorld::settle();
         QCOMPARE(world.alerts.shown().size(), 2);
-        QCOMPARE(world.alerts.shown().at(0).secondButton, QString("Keep Chromium for now"));
-        QCOMPARE(world.alerts.shown().at(1).secondButton, QString("Keep Web for now"));
-        QVERIFY(world.alerts.answer(Answer::first));
+        QCOMPARE(world.alerts.shown().at(0).buttons.at(1), QString("Keep Chromium for now"));
+        QCOMPARE(world.alerts.shown().at(1).buttons.at(1), QString("Keep Web for now"));
+        QVERIFY(world.alerts.answer(GuardWorld::changeBack));
         QVERIFY(world.waitForPolling());
         QCOMPARE(world.handlers.setCalls(), QStringList({"http=firefox-esr", "https=firefox-esr"}));
-        QVERIFY(!world.alerts.answer(Answer::first));
+        QVERIFY(!world.alerts.answer(GuardWorld::changeBack));
         world.poll();
     }
 
@@ -171,7 +169,7 @@ private Q_SLOTS:
 
         // Keep snoozes the mail guard only. Each guard then runs its missed tick once: the
         // mail guard's is silenced by its new snooze, the browser guard's finds Chromium.
-        QVERIFY(world.alerts.answer(Answer::second));
+        QVERIFY(world.alerts.answer(GuardWorld::keep));
         QVERIFY(email.isSnoozed());
         QVERIFY(!browser.isSnoozed());
         QCOMPARE(console.lines(), QStringList({"📝 Log: Browser changed from Firefox to Chromium"}));
@@ -182,7 +180,7 @@ private Q_SLOTS:
         QCOMPARE(world.alerts.shown().last().title, QString("Default browser changed"));
 
         // Nothing more is owed once that tick ran.
-        QVERIFY(world.alerts.answer(Answer::second));
+        QVERIFY(world.alerts.answer(GuardWorld::keep));
         QCOMPARE(browser.browserChangeCount(), 1);
     }
 
@@ -195,7 +193,7 @@ private Q_SLOTS:
         browser->checkDefaultBrowser();
         GuardWorld::settle();
         browser.reset();
-        QVERIFY(world.alerts.answer(Answer::first));
+        QVERIFY(world.alerts.answer(GuardWorld::changeBack));
         QVERIFY(world.handlers.setCalls().isEmpty());
         QVERIFY(!world.alerts.isPresenting());
     }
@@ -207,10 +205,10 @@ private Q_SLOTS:
         email.setTargetDefaultEmailClient(EmailClient("Thunderbird", "thunderbird"));
         email.setSnoozeDuration(SnoozeDuration::thirtyMinutes);
         world.mailDefault("evolution");
-        world.alerts.setPresetAnswer(Answer::second);
+        world.alerts.answerNext(GuardWorld::keep);
         world.tick();
         GuardWorld::settle();
-        QCOMPARE(world.alerts.shown().first().secondButton, QString("Keep Evolution for now"));
+        QCOMPARE(world.alerts.shown().first().buttons.at(1), QString("Keep Evolution for now"));
         QCOMPARE(email.snoozeUntil(), world.clock.now().addSecs(1800));
         world.clock.advance(1800);
         world.tick();

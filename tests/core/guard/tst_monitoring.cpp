@@ -34,13 +34,13 @@ private Q_SLOTS:
         QVERIFY(world.alerts.shown().isEmpty());
         GuardWorld::settle();
         QCOMPARE(world.alerts.shown().size(), 1);
-        const AlertPresenter::Alert alert = world.alerts.shown().first();
+        const ModalPrompt alert = world.alerts.shown().first();
         QCOMPARE(alert.title, QString("Default browser changed"));
         QCOMPARE(alert.text,
                  QString("Another program has made Chromium your default browser. "
                          "Your target browser is Firefox. Do you want to change it back?"));
-        QCOMPARE(alert.firstButton, QString("Change back"));
-        QCOMPARE(alert.secondButton, QString("Keep Chromium for now"));
+        QCOMPARE(alert.buttons.at(0), QString("Change back"));
+        QCOMPARE(alert.buttons.at(1), QString("Keep Chromium for now"));
         QCOMPARE(alert.symbolName, QString("exclamationmark.shield"));
 
         // A default that stays away counts again, logged from itself to itself.
@@ -96,7 +96,7 @@ private Q_SLOTS:
             QVERIFY(world.log.getAllLogs().isEmpty());
             GuardWorld::settle();
             QCOMPARE(world.alerts.shown().size(), 1);
-            QCOMPARE(world.alerts.shown().first().secondButton, QString("Keep Web for now"));
+            QCOMPARE(world.alerts.shown().first().buttons.at(1), QString("Keep Web for now"));
         }
     }
 

@@ -60,8 +60,6 @@ Events named(const QJsonArray &events)
 class TelemetryTest : public QObject {
     Q_OBJECT
 
-    using Answer = AlertPresenter::Answer;
-
 private Q_SLOTS:
     void firstLaunchEventsWaitForTheFirstActivation()
     {
@@ -104,7 +102,7 @@ private Q_SLOTS:
         world.browsersDefault("chromium");
         world.tick();
         GuardWorld::settle();
-        QVERIFY(world.alerts.answer(Answer::first));
+        QVERIFY(world.alerts.answer(GuardWorld::changeBack));
         QVERIFY(world.waitForPolling());
         world.poll();
         QVERIFY(!browser.isChangingBrowser());
@@ -113,7 +111,7 @@ private Q_SLOTS:
         world.mailDefault("evolution");
         world.tick();
         GuardWorld::settle();
-        QVERIFY(world.alerts.answer(Answer::second));
+        QVERIFY(world.alerts.answer(GuardWorld::keep));
         QVERIFY(email.isSnoozed());
 
         ingestion.aptabase.startPolling();

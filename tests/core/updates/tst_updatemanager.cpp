@@ -1,11 +1,13 @@
+#include "core/i18n/LanguageManager.h"
 #include "core/updates/UpdateManager.h"
-#include "core/updates/UpdatePresenter.h"
+#include "core/updates/UpdateSheetPresenter.h"
 #include "core/updates/UpdaterController.h"
 
 #include "ConsoleCapture.h"
 #include "FakeClock.h"
 #include "FakeTimerFactory.h"
 #include "FeedServer.h"
+#include "ScriptedPrompter.h"
 #include "TempSettings.h"
 
 #include <QDir>
@@ -31,12 +33,8 @@ struct RecordingController final : UpdaterController {
     QStringList &calls;
 };
 
-struct RecordingPresenter final : UpdatePresenter {
-    void presentUpdateAvailable(const QString &version, bool) override
-    {
-        shown << u"sheet " + version;
-    }
-    void presentNoUpdate() override { shown << QStringLiteral("up to date"); }
+struct RecordingSheet final : UpdateSheetPresenter {
+    void presentUpdateAvailable(const QString &version, bool) override { shown << version; }
     QStringList shown;
 };
 
@@ -55,8 +53,11 @@ public:
         options.installPath = QStringLiteral("/usr/bin/vandorel");
         options.brewPrefixes = {prefixes.path() + u"/opt/homebrew",
                                 prefixes.path() + u"/usr/local"};
+        options.sheet = &sheet;
+        options.prompter = &prompter;
+        options.language = &language;
         if (!ownUpdater)
-            options.makeController = [this](UpdateManager &) {
+            options.makeController = [this] {
                 return std::make_unique<RecordingController>(calls);
             };
         manager = std::make_unique<UpdateManager>(options);
@@ -83,14 +84,17 @@ public:
         return settings.store().doubleValue(UpdateManager::updateSnoozeUntilKey);
     }
 
-    ConsoleCapture console;
     TempSettings settings;
-    FakeClock clock{QDateTime(QDate(2026, 3, 14), QTime(9, 0), Qt::UTC)};
     FakeTimerFactory timers;
+    LanguageManager language{settings.store(), timers, {QStringLiteral("en")}};
+    ConsoleCapture console;
+    FakeClock clock{QDateTime(QDate(2026, 3, 14), QTime(9, 0), Qt::UTC)};
     FeedServer server;
     QTemporaryDir prefixes;
     QStringList calls;
     QStringList answers;
+    RecordingSheet sheet;
+    ScriptedPrompter prompter;
     std::unique_ptr<UpdateManager> manager;
 };
 
@@ -297,16 +301,20 @@ private Q_SLOTS:
     void ownUpdaterShowsWhatTheFeedSays()
     {
         Rig rig(true);
-        auto presenter = std::make_shared<RecordingPresenter>();
-        rig.manager->setPresenter(presenter);
-
         rig.server.serve({.body = feed("2.0")});
         QVERIFY(rig.manager->checkForUpdatesWithSparkle());
-        QTRY_COMPARE(presenter->shown, QStringList{"sheet 2.0"});
+        QTRY_COMPARE(rig.sheet.shown, QStringList{"2.0"});
         rig.timers.fire(8s);
         rig.server.serve({.body = feed("1.0")});
         QVERIFY(rig.manager->checkForUpdatesWithSparkle());
-        QTRY_COMPARE(presenter->shown, QStringList({"sheet 2.0", "up to date"}));
+        QTRY_VERIFY(rig.prompter.isPresenting());
+        QCOMPARE(rig.prompter.last().title,
+                 rig.language.localizedString("update_no_updates_title"));
+        QCOMPARE(rig.prompter.last().text,
+                 rig.language.localizedString("update_no_updates_message"));
+        QCOMPARE(rig.prompter.last().buttons,
+                 QStringList{rig.language.localizedString("general_ok")});
+        QCOMPARE(rig.sheet.shown, QStringList{"2.0"});
     }
 };
 

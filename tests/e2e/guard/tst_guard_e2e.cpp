@@ -1,7 +1,7 @@
 #include "ConsoleCapture.h"
 #include "FakeClock.h"
 #include "FakeTimerFactory.h"
-#include "ScriptedAlertPresenter.h"
+#include "ScriptedPrompter.h"
 #include "TempSettings.h"
 #include "XdgTree.h"
 #include "core/changelog/LogManager.h"
@@ -107,7 +107,7 @@ private Q_SLOTS:
         FreedesktopHandlerDatabase handlers;
         FakeClock clock;
         FakeTimerFactory timers;
-        ScriptedAlertPresenter alerts;
+        ScriptedPrompter alerts;
         LogManager log(settings.store(), clock);
         LanguageManager language(settings.store(), timers, {"en"});
         LanguageManager::setShared(&language);
@@ -134,10 +134,10 @@ private Q_SLOTS:
         timers.fire(600s);
         QCOMPARE(console.lines(), expected.mid(0, 1));
         QCOMPARE(guard->changeCount(), 1);
-        ScriptedAlertPresenter::settle();
+        ScriptedPrompter::settle();
         QCOMPARE(alerts.shown().size(), 1);
 
-        QVERIFY(alerts.answer(AlertPresenter::Answer::first));
+        QVERIFY(alerts.answer(0)); // change back
         // The system calls run on a worker; its hand-back starts the poll.
         QVERIFY(QTest::qWaitFor([&] { return !timers.activeWithInterval(1s).isEmpty(); }, 10000));
         timers.fire(1s);

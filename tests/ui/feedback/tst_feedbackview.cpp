@@ -7,6 +7,7 @@
 
 #include "ConsoleCapture.h"
 #include "FakeTimerFactory.h"
+#include "ScriptedPrompter.h"
 #include "TempSettings.h"
 
 #include <QApplication>
@@ -23,7 +24,7 @@ using namespace std::chrono_literals;
 namespace {
 
 // English texts, a feedback server on loopback and the page over them, shown; alerts are
-// recorded instead of shown and wait for dismiss().
+// recorded instead of shown and wait for an answer.
 struct Rig {
     ConsoleCapture console;
     TempSettings settings;
@@ -31,9 +32,8 @@ struct Rig {
     LanguageManager language{settings.store(), timers, {}};
     LoopbackIngestion server;
     LoopbackAnalytics telemetry;
+    ScriptedPrompter alerts;
     std::unique_ptr<FeedbackView> view;
-    QList<FeedbackView::Alert> alerts;
-    std::function<void()> dismiss;
 
     explicit Rig(const QString &apiKey = QStringLiteral("key-123"))
     {
@@ -42,12 +42,7 @@ struct Rig {
         FeedbackForm::Options options;
         options.endpointURL = QUrl(server.baseUrl() + u"/api/feedback");
         options.apiKey = apiKey;
-        view = std::make_unique<FeedbackView>(options, language);
-        view->setAlertPresenter([this](FeedbackView &, const FeedbackView::Alert &alert,
-                                       std::function<void()> dismissed) {
-            alerts.append(alert);
-            dismiss = std::move(dismissed);
-        });
+        view = std::make_unique<FeedbackView>(options, language, alerts);
         view->resize(560, 760);
         view->show();
         static_cast<void>(QTest::qWaitForWindowExposed(view.get()));
@@ -180,19 +175,20 @@ private Q_SLOTS:
         QTest::qWait(100);
         QCOMPARE(rig.server.requests.size(), 1);
         rig.server.release();
-        QVERIFY(QTest::qWaitFor([&] { return !rig.alerts.isEmpty(); }, 3000));
+        QVERIFY(QTest::qWaitFor([&] { return rig.alerts.isPresenting(); }, 3000));
 
-        QCOMPARE(rig.alerts.size(), 1);
-        QCOMPARE(rig.alerts.first().kind, FeedbackView::AlertKind::success);
-        QCOMPARE(rig.alerts.first().title, rig.text("feedback_sent_title"));
-        QCOMPARE(rig.alerts.first().message, rig.text("feedback_sent_message"));
+        QCOMPARE(rig.alerts.shown().size(), 1);
+        QCOMPARE(rig.alerts.last().style, ModalPrompt::Style::informational);
+        QCOMPARE(rig.alerts.last().title, rig.text("feedback_sent_title"));
+        QCOMPARE(rig.alerts.last().text, rig.text("feedback_sent_message"));
+        QCOMPARE(rig.alerts.last().buttons, QStringList{rig.text("general_ok")});
         check(true);
         QCOMPARE(send->text(), rig.text("feedback_send"));
         // A fresh form behind the alert.
         QCOMPARE(rig.counter(), QStringLiteral("0/1000"));
         QVERIFY(rig.view->tagButton(FeedbackTag::coolApp)->isSelected());
         QVERIFY(rig.view->moodButton(4)->isSelected() && !rig.view->moodButton(1)->isSelected());
-        rig.dismiss();
+        QVERIFY(rig.alerts.answer(0));
         QVERIFY(!rig.view->form().showSuccessAlert());
     }
 
@@ -201,13 +197,15 @@ private Q_SLOTS:
         Rig rig(QString{});
         rig.click(rig.view->sendButton());
         rig.click(rig.view->sendButton());
-        QCOMPARE(rig.alerts.size(), 1);
-        QCOMPARE(rig.alerts.first().kind, FeedbackView::AlertKind::error);
-        QCOMPARE(rig.alerts.first().title, rig.text("feedback_error_title"));
-        QCOMPARE(rig.alerts.first().message, rig.text("feedback_error_message"));
-        rig.dismiss();
+        QTRY_VERIFY(rig.alerts.isPresenting());
+        ScriptedPrompter::settle();
+        QCOMPARE(rig.alerts.shown().size(), 1);
+        QCOMPARE(rig.alerts.last().style, ModalPrompt::Style::warning);
+        QCOMPARE(rig.alerts.last().title, rig.text("feedback_error_title"));
+        QCOMPARE(rig.alerts.last().text, rig.text("feedback_error_message"));
+        QVERIFY(rig.alerts.answer(0));
         rig.click(rig.view->sendButton());
-        QCOMPARE(rig.alerts.size(), 2);
+        QTRY_COMPARE(rig.alerts.shown().size(), 2);
         QVERIFY(rig.server.requests.isEmpty());
     }
 

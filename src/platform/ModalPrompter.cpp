@@ -1,38 +1,38 @@
-#include "core/guard/AlertQueue.h"
+#include "platform/ModalPrompter.h"
 
 #include <QMetaObject>
 
 #include <utility>
 
-void AlertQueue::present(const Alert &alert, std::function<void(Answer)> onAnswer)
+void ModalPrompter::present(const ModalPrompt &prompt, Answer onAnswer)
 {
-    m_pending.append({alert, std::move(onAnswer)});
+    m_pending.append({prompt, std::move(onAnswer)});
     if (!m_presenting)
         scheduleNext();
 }
 
-void AlertQueue::finish(Answer answer)
+void ModalPrompter::finish(int button)
 {
     if (!m_presenting)
         return;
     m_presenting = false;
-    const auto onAnswer = std::exchange(m_onAnswer, {});
+    const Answer onAnswer = std::exchange(m_onAnswer, {});
     if (onAnswer)
-        onAnswer(answer);
+        onAnswer(button);
     Q_EMIT presentingChanged(false);
     if (!m_presenting && !m_pending.isEmpty())
         scheduleNext();
 }
 
-void AlertQueue::scheduleNext()
+void ModalPrompter::scheduleNext()
 {
     if (m_nextScheduled)
         return;
     m_nextScheduled = true;
-    QMetaObject::invokeMethod(this, &AlertQueue::showNext, Qt::QueuedConnection);
+    QMetaObject::invokeMethod(this, &ModalPrompter::showNext, Qt::QueuedConnection);
 }
 
-void AlertQueue::showNext()
+void ModalPrompter::showNext()
 {
     m_nextScheduled = false;
     if (m_presenting || m_pending.isEmpty())
@@ -41,5 +41,5 @@ void AlertQueue::showNext()
     m_onAnswer = std::move(next.onAnswer);
     m_presenting = true;
     Q_EMIT presentingChanged(true);
-    show(next.alert);
+    show(next.prompt);
 }
