@@ -1,6 +1,6 @@
 #pragma once
 
-#include "core/support/QtTimerFactory.h"
+#include "foundation/QtTimerFactory.h"
 
 #include <QObject>
 

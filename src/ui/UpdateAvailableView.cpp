@@ -1,7 +1,7 @@
 #include "ui/UpdateAvailableView.h"
 
 #include "core/i18n/LanguageManager.h"
-#include "core/support/QtTimerFactory.h"
+#include "foundation/QtTimerFactory.h"
 #include "ui/InlineMarkdown.h"
 #include "ui/SymbolTable.h"
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "core/support/TimerFactory.h"
+#include "foundation/TimerFactory.h"
 
 #include <QList>
 #include <QPointer>

@@ -4,12 +4,12 @@
 #include "core/support/AppInfo.h"
 #include "core/support/Clock.h"
 #include "core/support/Console.h"
-#include "core/support/QtTimerFactory.h"
 #include "core/support/SystemClock.h"
 #include "core/updates/AppcastInput.h"
 #include "core/updates/AppcastParser.h"
 #include "core/updates/AppcastUpdaterController.h"
 #include "core/updates/VersionOrder.h"
+#include "foundation/QtTimerFactory.h"
 
 #include "BuildConfig.h"
 

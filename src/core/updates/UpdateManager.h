@@ -1,5 +1,7 @@
 #pragma once
 
+#include "foundation/Timer.h"
+
 #include <QByteArray>
 #include <QObject>
 #include <QPointer>
@@ -17,7 +19,6 @@ class ModalPrompter;
 class QNetworkAccessManager;
 class QNetworkReply;
 class SettingsStore;
-class Timer;
 class TimerFactory;
 class UpdateSheetPresenter;
 class UpdaterController;

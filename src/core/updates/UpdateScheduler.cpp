@@ -2,8 +2,8 @@
 
 #include "core/settings/SettingsStore.h"
 #include "core/support/Console.h"
-#include "core/support/TimerFactory.h"
 #include "core/updates/UpdateCheckInterval.h"
+#include "foundation/TimerFactory.h"
 
 namespace {
 

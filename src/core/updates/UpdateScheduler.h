@@ -1,5 +1,7 @@
 #pragma once
 
+#include "foundation/Timer.h"
+
 #include <QObject>
 #include <QPointer>
 #include <QString>
@@ -9,7 +11,6 @@
 #include <optional>
 
 class SettingsStore;
-class Timer;
 class TimerFactory;
 
 // Fires the automatic update check once shortly after a configuration and then at a fixed

@@ -2,8 +2,8 @@
 
 #include "core/i18n/RelativeDateTime.h"
 #include "core/support/Clock.h"
-#include "core/support/Timer.h"
-#include "core/support/TimerFactory.h"
+#include "foundation/Timer.h"
+#include "foundation/TimerFactory.h"
 
 RelativeTimeLabel::RelativeTimeLabel(Clock &clock, TimerFactory &timers, QWidget *parent)
     : QLabel(parent), m_clock(clock), m_timer(timers.createTimer(this))

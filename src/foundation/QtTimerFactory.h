@@ -1,6 +1,6 @@
 #pragma once
 
-#include "core/support/TimerFactory.h"
+#include "foundation/TimerFactory.h"
 
 // Timers backed by QTimer on the calling thread's event loop.
 class QtTimerFactory final : public TimerFactory {

@@ -1,4 +1,4 @@
-#include "core/support/QtTimerFactory.h"
+#include "foundation/QtTimerFactory.h"
 
 #include <QTimer>
 

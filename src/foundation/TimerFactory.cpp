@@ -1,4 +1,4 @@
-#include "core/support/TimerFactory.h"
+#include "foundation/TimerFactory.h"
 
 void TimerFactory::singleShot(std::chrono::milliseconds delay, QObject *context,
                               std::function<void()> work)

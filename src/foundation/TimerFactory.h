@@ -1,6 +1,6 @@
 #pragma once
 
-#include "core/support/Timer.h"
+#include "foundation/Timer.h"
 
 #include <chrono>
 #include <functional>
