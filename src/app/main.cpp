@@ -1,6 +1,8 @@
+#include "app/CommandLine.h"
 #include "app/VandorelApp.h"
 #include "core/guard/StatusReport.h"
 #include "core/settings/SettingsStore.h"
+#include "core/support/AppInfo.h"
 #include "core/support/Console.h"
 #include "platform/PlatformBackend.h"
 
@@ -13,6 +15,20 @@
 
 namespace {
 
+QStringList argumentsOf(int argc, char **argv)
+{
+    QStringList arguments;
+    for (int i = 0; i < argc; ++i)
+        arguments << QString::fromLocal8Bit(argv[i]);
+    return arguments;
+}
+
+void write(FILE *stream, const QByteArray &bytes)
+{
+    std::fwrite(bytes.constData(), 1, static_cast<size_t>(bytes.size()), stream);
+    std::fflush(stream);
+}
+
 // `vandorel --status`: what the guards would see now, as JSON on standard output,
 // without writing anything or claiming the single-instance lock.
 int printStatus(int argc, char **argv)
@@ -21,27 +37,37 @@ int printStatus(int argc, char **argv)
     Console::toStandardError();
     SettingsStore settings(SettingsStore::defaultFilePath());
     const auto handlers = PlatformBackend::createHandlerDatabase();
-    const QByteArray json = StatusReport::build(settings, *handlers);
-    std::fwrite(json.constData(), 1, static_cast<size_t>(json.size()), stdout);
-    std::fflush(stdout);
+    write(stdout, StatusReport::build(settings, *handlers));
     return 0;
 }
 
-bool hasArgument(int argc, char **argv, const char *name)
+// Help, version and a refused command line are answered before anything of the program
+// exists: no lock is claimed and no setting is written.
+int answer(int argc, char **argv, const CommandLine &commandLine)
 {
-    for (int i = 1; i < argc; ++i) {
-        if (qstrcmp(argv[i], name) == 0)
-            return true;
+    QCoreApplication core(argc, argv);
+    switch (commandLine.mode()) {
+    case CommandLine::Mode::Help:
+        write(stdout, commandLine.helpText().toUtf8());
+        return 0;
+    case CommandLine::Mode::Version:
+        write(stdout, (u"Vandorel " + AppInfo::fullVersion() + u'\n').toUtf8());
+        return 0;
+    default:
+        write(stderr, (commandLine.errorText() + u'\n' + commandLine.usageLine() + u'\n').toUtf8());
+        return 2;
     }
-    return false;
 }
 
 } // namespace
 
 int main(int argc, char **argv)
 {
-    if (hasArgument(argc, argv, "--status"))
+    const CommandLine commandLine(argumentsOf(argc, argv));
+    if (commandLine.mode() == CommandLine::Mode::Status)
         return printStatus(argc, argv);
+    if (commandLine.mode() != CommandLine::Mode::Run)
+        return answer(argc, argv, commandLine);
 
     QApplication application(argc, argv);
     QApplication::setApplicationName(QStringLiteral("Vandorel"));
@@ -49,7 +75,7 @@ int main(int argc, char **argv)
     QApplication::setQuitOnLastWindowClosed(false);
 
     VandorelApp::Options options;
-    options.launchedAtLogin = hasArgument(argc, argv, "--login");
+    options.launchedAtLogin = commandLine.launchedAtLogin();
     VandorelApp app(options);
     return QApplication::exec();
 }

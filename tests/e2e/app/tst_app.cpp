@@ -1,5 +1,8 @@
 #include "XdgTree.h"
 
+#include "BuildConfig.h"
+
+#include <QDir>
 #include <QElapsedTimer>
 #include <QFile>
 #include <QJsonArray>
@@ -94,6 +97,22 @@ class AppTest : public QObject {
         QProcess process;
         process.start(program, arguments);
         return process.waitForFinished(60000) && process.exitCode() == 0;
+    }
+
+    struct Answer {
+        int exitCode = -1;
+        QByteArray out;
+        QByteArray err;
+    };
+
+    static Answer ask(const QStringList &arguments)
+    {
+        QProcess process;
+        process.start(QStringLiteral(VANDOREL_BINARY), arguments);
+        if (!process.waitForFinished(30000) || process.exitStatus() != QProcess::NormalExit)
+            return {};
+        return {process.exitCode(), process.readAllStandardOutput(),
+                process.readAllStandardError()};
     }
 
     QString settingsPath() const
@@ -233,6 +252,40 @@ private Q_SLOTS:
         QCOMPARE(email.value(u"isProtected").toBool(), false);
         QCOMPARE(email.value(u"status").toString(), QString("notProtected"));
         QCOMPARE(m_tree->read(QStringLiteral("config/io.kestrane.vandorel/settings.ini")), before);
+    }
+
+    // Help, version and a mistaken option answer without starting anything: no settings
+    // file appears, and a running copy does not keep them from answering.
+    void helpVersionAndMistakesStartNothing()
+    {
+        const Answer help = ask({QStringLiteral("--help")});
+        QCOMPARE(help.exitCode, 0);
+        const QByteArray usage = help.out.left(help.out.indexOf('\n') + 1);
+        QCOMPARE(usage, QByteArray("Usage: " VANDOREL_BINARY " [options] [url]\n"));
+        QVERIFY(help.out.contains("--status"));
+        const QByteArray version = "Vandorel " + QByteArray(BuildConfig::appVersion) + " ("
+                                   + QByteArray(BuildConfig::buildNumber) + ")\n";
+        QCOMPARE(ask({QStringLiteral("--version")}).out, version);
+        const Answer wrong = ask({QStringLiteral("--bogus"), QStringLiteral("vandorel://about")});
+        QCOMPARE(wrong.exitCode, 2);
+        QCOMPARE(wrong.out, QByteArray());
+        QCOMPARE(wrong.err, "Unknown option 'bogus'.\n" + usage);
+        QVERIFY(!QFile::exists(settingsPath()));
+        QVERIFY(QDir(m_tree->path(QStringLiteral("runtime"))).isEmpty());
+
+        QProcess first;
+        QProcessEnvironment env = QProcessEnvironment::systemEnvironment();
+        env.insert(QStringLiteral("QT_QPA_PLATFORM"), QStringLiteral("offscreen"));
+        first.setProcessEnvironment(env);
+        first.start(QStringLiteral(VANDOREL_BINARY));
+        QByteArray out;
+        QTRY_VERIFY_WITH_TIMEOUT(
+            (out += first.readAllStandardOutput(), out.contains("🚀 App launched")), 20000);
+        QCOMPARE(ask({QStringLiteral("--bogus")}).exitCode, 2);
+        QCOMPARE(ask({QStringLiteral("-v")}).out, version);
+        QCOMPARE(first.state(), QProcess::Running);
+        first.kill();
+        first.waitForFinished(5000);
     }
 
     void firstLaunchOnceAndOneCopyOnly()
