@@ -1,0 +1,141 @@
+#include "BuildConfig.h"
+
+#include <QDir>
+#include <QProcess>
+#include <QRegularExpression>
+#include <QTemporaryDir>
+#include <QTest>
+
+// The Debian package that CPack makes of this build: its control fields, its files, a
+// stripped program, and what lintian and apt say of it.
+class PackageTest : public QObject {
+    Q_OBJECT
+
+    QTemporaryDir m_dir;
+    QString m_deb;
+
+    struct Result {
+        int exitCode = -1;
+        QString out;
+    };
+
+    static Result run(const QString &program, const QStringList &arguments,
+                      QProcess::ProcessChannelMode channels = QProcess::SeparateChannels)
+    {
+        QProcess process;
+        process.setProcessChannelMode(channels);
+        process.start(program, arguments);
+        if (!process.waitForFinished(300000) || process.exitStatus() != QProcess::NormalExit)
+            return {-1, program + u" did not finish"};
+        return {process.exitCode(), QString::fromUtf8(process.readAllStandardOutput())};
+    }
+
+    QString field(const char *name) const
+    {
+        return run(QStringLiteral("dpkg-deb"),
+                   {QStringLiteral("--field"), m_deb, QLatin1StringView(name)})
+            .out.trimmed();
+    }
+
+private Q_SLOTS:
+    void initTestCase()
+    {
+        const Result pack = run(QStringLiteral("cpack"),
+                                {QStringLiteral("--config"),
+                                 QStringLiteral(VANDOREL_BUILD_DIR "/CPackConfig.cmake"),
+                                 QStringLiteral("-B"), m_dir.path()},
+                                QProcess::MergedChannels);
+        QVERIFY2(pack.exitCode == 0, qPrintable(pack.out));
+        const QStringList debs = QDir(m_dir.path()).entryList({QStringLiteral("*.deb")});
+        QCOMPARE(debs.size(), 1);
+        m_deb = m_dir.filePath(debs.first());
+        QCOMPARE(debs.first(),
+                 u"vandorel_" + QLatin1StringView(BuildConfig::appVersion) + u"_"
+                     + run(QStringLiteral("dpkg"), {"--print-architecture"}).out.trimmed()
+                     + u".deb");
+    }
+
+    void controlFieldsAndComputedDependencies()
+    {
+        QCOMPARE(field("Package"), QString("vandorel"));
+        QCOMPARE(field("Version"), QString(BuildConfig::appVersion));
+        // dpkg-shlibdeps names the libraries the program links, with their versions.
+        const QString depends = field("Depends");
+        for (const char *library : {"libc6 (>=", "libstdc++6 (>=", "libqt6core6 (>=",
+                                    "libqt6widgets6 (>=", "libqt6dbus6 (>=", "libqt6network6 (>="})
+            QVERIFY2(depends.contains(QLatin1StringView(library)), qPrintable(depends));
+        QVERIFY(depends.contains(QRegularExpression(QStringLiteral("libicu\\d+ \\(>="))));
+        QVERIFY(!field("Maintainer").isEmpty());
+    }
+
+    void filesAreExactlyTheInstalledOnes()
+    {
+        const QString listing = run(QStringLiteral("dpkg-deb"), {"--contents", m_deb}).out;
+        QStringList files;
+        for (const QString &line : listing.split(u'\n', Qt::SkipEmptyParts)) {
+            if (!line.startsWith(u'd')) // directories come with their files
+                files << line.section(u' ', -1);
+        }
+        files.sort();
+        const QString id = QString::fromUtf8(BuildConfig::appId);
+        QStringList expected{"./usr/bin/vandorel",
+                             "./usr/share/applications/" + id + ".desktop",
+                             "./usr/share/doc/vandorel/changelog.gz",
+                             "./usr/share/doc/vandorel/copyright",
+                             "./usr/share/icons/hicolor/scalable/apps/" + id + ".svg",
+                             "./usr/share/man/man1/vandorel.1.gz",
+                             "./usr/share/metainfo/" + id + ".metainfo.xml"};
+        for (const char *size : {"16x16", "32x32", "48x48", "64x64", "128x128", "256x256"})
+            expected << "./usr/share/icons/hicolor/" + QLatin1StringView(size) + "/apps/" + id
+                            + ".png";
+        expected.sort();
+        QCOMPARE(files, expected);
+
+        // Owned by root; the program alone is executable.
+        for (const QString &line : listing.split(u'\n', Qt::SkipEmptyParts)) {
+            const QString mode = line.startsWith(u'd')                 ? "drwxr-xr-x"
+                                 : line.endsWith(u"/usr/bin/vandorel") ? "-rwxr-xr-x"
+                                                                       : "-rw-r--r--";
+            QVERIFY2(line.startsWith(mode) && line.contains(u" root/root "), qPrintable(line));
+        }
+    }
+
+    void programIsStripped()
+    {
+        QTemporaryDir unpacked;
+        QCOMPARE(run(QStringLiteral("dpkg-deb"), {"-x", m_deb, unpacked.path()}).exitCode, 0);
+        const QString sections =
+            run(QStringLiteral("readelf"), {"-S", "-W", unpacked.path() + "/usr/bin/vandorel"}).out;
+        QVERIFY(sections.contains(u" .text "));
+        QVERIFY(!sections.contains(u" .symtab "));
+        QVERIFY(!sections.contains(u" .debug_"));
+    }
+
+    // Lintian's errors fail the test; its warnings are listed in the output.
+    void lintianFindsNoError()
+    {
+        const Result lintian =
+            run(QStringLiteral("lintian"), {"--no-tag-display-limit", "--info", m_deb});
+        QVERIFY2(lintian.exitCode == 0 || lintian.exitCode == 1, qPrintable(lintian.out));
+        QStringList errors;
+        for (const QString &line : lintian.out.split(u'\n', Qt::SkipEmptyParts)) {
+            if (line.startsWith(u"E: "))
+                errors << line;
+            else if (line.startsWith(u"W: "))
+                qInfo().noquote() << line;
+        }
+        QVERIFY2(errors.isEmpty(), qPrintable(errors.join(u'\n')));
+    }
+
+    // What apt would do with it on this system, without doing it.
+    void aptCanInstallIt()
+    {
+        const Result apt = run(QStringLiteral("apt-get"), {"--simulate", "install", m_deb},
+                               QProcess::MergedChannels);
+        QVERIFY2(apt.exitCode == 0, qPrintable(apt.out));
+        QVERIFY2(apt.out.contains(u"Inst vandorel "), qPrintable(apt.out));
+    }
+};
+
+QTEST_GUILESS_MAIN(PackageTest)
+#include "tst_package.moc"
