@@ -1,6 +1,7 @@
 #pragma once
 
 #include "platform/HandlerDatabase.h"
+#include "platform/LoginItem.h"
 #include "platform/SingleInstance.h"
 #include "platform/SystemEvents.h"
 
@@ -13,4 +14,6 @@ public:
     static std::unique_ptr<HandlerDatabase> createHandlerDatabase();
     static std::unique_ptr<SingleInstance> createSingleInstance(const QString &appId);
     static std::unique_ptr<SystemEvents> createSystemEvents();
+    // Launch at login of the running executable.
+    static std::unique_ptr<LoginItem> createLoginItem(const QString &appId);
 };

@@ -1,8 +1,11 @@
 #include "platform/PlatformBackend.h"
 
+#include "platform/freedesktop/AutostartLoginItem.h"
 #include "platform/freedesktop/FreedesktopHandlerDatabase.h"
 #include "platform/freedesktop/FreedesktopSystemEvents.h"
 #include "platform/freedesktop/LockFileSingleInstance.h"
+
+#include <QCoreApplication>
 
 std::unique_ptr<HandlerDatabase> PlatformBackend::createHandlerDatabase()
 {
@@ -17,4 +20,9 @@ std::unique_ptr<SingleInstance> PlatformBackend::createSingleInstance(const QStr
 std::unique_ptr<SystemEvents> PlatformBackend::createSystemEvents()
 {
     return std::make_unique<FreedesktopSystemEvents>();
+}
+
+std::unique_ptr<LoginItem> PlatformBackend::createLoginItem(const QString &appId)
+{
+    return std::make_unique<AutostartLoginItem>(appId, QCoreApplication::applicationFilePath());
 }

@@ -1,0 +1,115 @@
+#include "platform/freedesktop/AutostartLoginItem.h"
+#include "platform/freedesktop/DesktopEntry.h"
+
+#include "XdgTree.h"
+
+#include <QFile>
+#include <QFileInfo>
+#include <QProcess>
+#include <QTest>
+
+namespace {
+
+const QString appId = QStringLiteral("io.kestrane.vandorel");
+const QString entryFile = QStringLiteral("config/autostart/io.kestrane.vandorel.desktop");
+
+// desktop-file-validate's verdict: empty when it accepts the file, else what it said.
+QString validatorComplaints(const QString &path)
+{
+    QProcess validate;
+    validate.setProcessChannelMode(QProcess::MergedChannels);
+    validate.start(QStringLiteral("desktop-file-validate"), {path});
+    if (!validate.waitForFinished(30000))
+        return QStringLiteral("desktop-file-validate did not run");
+    const QString output = QString::fromUtf8(validate.readAll());
+    return validate.exitCode() == 0 && output.isEmpty() ? QString() : output;
+}
+
+void setMode(const QString &path, QFileDevice::Permissions mode)
+{
+    QVERIFY(QFile::setPermissions(path, mode));
+}
+
+const auto readOnlyFolder = QFileDevice::ReadOwner | QFileDevice::ExeOwner;
+const auto writableFolder = readOnlyFolder | QFileDevice::WriteOwner;
+
+} // namespace
+
+class TestAutostartLoginItem : public QObject {
+    Q_OBJECT
+private Q_SLOTS:
+    void writesReadsAndRemovesTheEntry()
+    {
+        XdgTree tree;
+        const QString binary = tree.stub(QStringLiteral("vandorel"));
+        AutostartLoginItem item(appId, binary);
+        QCOMPARE(item.entryPath(), tree.path(entryFile));
+        QVERIFY(!item.isEnabled());
+
+        QCOMPARE(item.registerItem(), std::nullopt);
+        QVERIFY(item.isEnabled());
+        QCOMPARE(validatorComplaints(item.entryPath()), QString());
+        const auto entry = DesktopEntry::read(item.entryPath());
+        QVERIFY(entry && entry->isLaunchable());
+        QCOMPARE(entry->exec(), binary + QStringLiteral(" --login"));
+        QCOMPARE(QFileInfo(tree.path(QStringLiteral("config/autostart"))).isDir(), true);
+
+        // Registering again is harmless; a desktop's own switch (Hidden=true) turns it off,
+        // and registering turns it on again.
+        QCOMPARE(item.registerItem(), std::nullopt);
+        tree.write(entryFile, tree.read(entryFile) + "Hidden=true\n");
+        QVERIFY(!item.isEnabled());
+        QCOMPARE(item.registerItem(), std::nullopt);
+        QVERIFY(item.isEnabled());
+
+        QCOMPARE(item.unregisterItem(), std::nullopt);
+        QVERIFY(!QFileInfo::exists(item.entryPath()));
+        QVERIFY(!item.isEnabled());
+        QCOMPARE(item.unregisterItem(), std::nullopt);
+    }
+
+    void quotesAnExecutablePathThatNeedsIt()
+    {
+        XdgTree tree;
+        const QString binary = tree.path(QStringLiteral("My Apps/van\"dor$el\\`x`/vandorel"));
+        AutostartLoginItem item(appId, binary);
+        QCOMPARE(item.registerItem(), std::nullopt);
+        QCOMPARE(validatorComplaints(item.entryPath()), QString());
+        QCOMPARE(DesktopEntry::read(item.entryPath())->execProgram(), binary);
+        QCOMPARE(AutostartLoginItem::execArgument(QStringLiteral("/opt/50%/v")),
+                 QStringLiteral("/opt/50%%/v"));
+        QCOMPARE(AutostartLoginItem::execArgument(QStringLiteral("/opt/a b\\c")),
+                 QStringLiteral("\"/opt/a b\\\\\\\\c\""));
+    }
+
+    void failsWithTheReasonAndChangesNothing()
+    {
+        XdgTree tree;
+        AutostartLoginItem item(appId, tree.stub(QStringLiteral("vandorel")));
+        const QString folder = tree.path(QStringLiteral("config/autostart"));
+
+        // A read-only folder: nothing is written, and an entry already there stays.
+        QVERIFY(QDir().mkpath(folder));
+        setMode(folder, readOnlyFolder);
+        QCOMPARE(item.registerItem(), folder + QStringLiteral(": Permission denied"));
+        QVERIFY(!QFileInfo::exists(item.entryPath()));
+        setMode(folder, writableFolder);
+        QCOMPARE(item.registerItem(), std::nullopt);
+        setMode(folder, readOnlyFolder);
+        QCOMPARE(item.unregisterItem(), folder + QStringLiteral(": Permission denied"));
+        QVERIFY(item.isEnabled());
+        setMode(folder, writableFolder);
+
+        // Things in the way: a file where the folder belongs, a folder where the entry does.
+        QVERIFY(QFile::remove(item.entryPath()));
+        QVERIFY(QDir(folder).mkdir(QFileInfo(item.entryPath()).fileName()));
+        QCOMPARE(item.registerItem(), item.entryPath() + QStringLiteral(": Is a directory"));
+        QVERIFY(QDir(folder).removeRecursively());
+        tree.write(QStringLiteral("config/autostart"), "not a folder");
+        QCOMPARE(item.registerItem(), folder + QStringLiteral(": Not a directory"));
+        QVERIFY(!item.isEnabled());
+    }
+};
+
+QTEST_GUILESS_MAIN(TestAutostartLoginItem)
+#include "tst_autostartloginitem.moc"
