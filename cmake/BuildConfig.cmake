@@ -16,6 +16,9 @@ set(VANDOREL_FEED_URL "${VANDOREL_WEB_HOST}/app/Vandorel/appcast.xml" CACHE STRI
 set(VANDOREL_ANALYTICS_US_HOST "http://127.0.0.1:8766" CACHE STRING "Analytics ingestion base, US region")
 set(VANDOREL_ANALYTICS_EU_HOST "http://127.0.0.1:8766" CACHE STRING "Analytics ingestion base, EU region")
 set(VANDOREL_FEEDBACK_API_KEY "" CACHE STRING "Key sent as X-API-Key with feedback")
+set(VANDOREL_WEBSITE_URL "${VANDOREL_WEB_HOST}" CACHE STRING "Product web site (about window)")
+set(VANDOREL_CONTACT_EMAIL "" CACHE STRING "Contact mailbox (about window); empty for none")
+set(VANDOREL_DONATION_URL "" CACHE STRING "Donation page (general page, about window); empty for none")
 option(VANDOREL_RELEASE "A build for distribution (the release preset)" OFF)
 if(VANDOREL_RELEASE AND VANDOREL_FEEDBACK_API_KEY STREQUAL "")
   message(WARNING "VANDOREL_FEEDBACK_API_KEY is not set: this release build can't send feedback. "

@@ -23,4 +23,16 @@ QString fullVersion()
 {
     return appVersion() + u" (" + buildNumber() + u')';
 }
+QUrl websiteURL()
+{
+    return QUrl(QString::fromUtf8(BuildConfig::websiteUrl));
+}
+QUrl contactURL()
+{
+    return QUrl(u"mailto:" + QString::fromUtf8(BuildConfig::contactEmail));
+}
+QUrl donationURL()
+{
+    return QUrl(QString::fromUtf8(BuildConfig::donationUrl));
+}
 } // namespace AppInfo

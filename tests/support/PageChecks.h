@@ -1,0 +1,76 @@
+#pragma once
+
+#include "core/i18n/AppLanguage.h"
+#include "core/i18n/LanguageManager.h"
+
+#include <QAbstractButton>
+#include <QApplication>
+#include <QCoreApplication>
+#include <QLabel>
+#include <QStringList>
+#include <QTranslator>
+#include <QWidget>
+
+// Checks that the settings pages' tests share: texts that do not fit, the language with the
+// longest texts, screenshots next to the test binary.
+namespace PageChecks {
+
+// Lets pending layout, palette and style changes reach the widgets.
+inline void settle()
+{
+    for (int round = 0; round < 5; ++round) {
+        QCoreApplication::sendPostedEvents();
+        QCoreApplication::processEvents();
+    }
+}
+
+// The texts of shown labels and buttons that their widget cuts: a wrapping label shorter than
+// its text needs at its width, any other one narrower than its text.
+inline QStringList clippedTexts(const QWidget &root)
+{
+    settle();
+    QStringList clipped;
+    for (const QLabel *label : root.findChildren<QLabel *>()) {
+        if (!label->isVisibleTo(&root) || label->text().isEmpty())
+            continue;
+        const bool fits = label->wordWrap()
+                              ? label->heightForWidth(label->width()) <= label->height()
+                              : label->sizeHint().width() <= label->width();
+        if (!fits)
+            clipped.append(label->text());
+    }
+    for (const QAbstractButton *button : root.findChildren<QAbstractButton *>()) {
+        if (button->isVisibleTo(&root) && !button->text().isEmpty()
+            && button->sizeHint().width() > button->width())
+            clipped.append(button->text());
+    }
+    return clipped;
+}
+
+// The language whose texts for `keys` are longest in all, as drawn in the application font.
+inline AppLanguage longestLanguage(const QStringList &keys)
+{
+    const QFontMetrics metrics(QApplication::font());
+    AppLanguage longest = AppLanguage::english;
+    int widest = -1;
+    for (const AppLanguage candidate : AppLanguage::allCases()) {
+        const QTranslator *table = LanguageManager::bundleForLanguage(candidate.code());
+        int width = 0;
+        for (const QString &key : keys)
+            width += metrics.horizontalAdvance(table->translate("Localizable", key.toUtf8()));
+        if (width > widest) {
+            widest = width;
+            longest = candidate;
+        }
+    }
+    return longest;
+}
+
+// Saves the widget's picture next to the test binary as <name>.png; false if it failed.
+inline bool saveScreenshot(QWidget &widget, const QString &name)
+{
+    settle();
+    return widget.grab().save(QCoreApplication::applicationDirPath() + u'/' + name + u".png");
+}
+
+} // namespace PageChecks
