@@ -1,5 +1,4 @@
 # The about window's content.
 target_sources(vandorel_ui PRIVATE
   about/AboutView.h about/AboutView.cpp
-  about/LinkRow.h about/LinkRow.cpp
 )

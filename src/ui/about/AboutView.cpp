@@ -6,7 +6,7 @@
 #include "core/support/Clock.h"
 #include "ui/LocalizedText.h"
 #include "ui/TextStyle.h"
-#include "ui/about/LinkRow.h"
+#include "ui/widgets/RowButton.h"
 #include "ui/widgets/SymbolLabel.h"
 
 #include <QDesktopServices>
@@ -18,7 +18,7 @@ namespace {
 
 const QColor symbolBlue(0x00, 0x7A, 0xFF);
 constexpr int sideMargin = 40;
-constexpr int headerSymbolSize = 56;
+constexpr int headerSymbolSize = 48;
 
 QFrame *divider()
 {
@@ -66,8 +66,8 @@ AboutView::AboutView(LanguageManager &language, const Clock &clock,
 {
     setFixedSize(fixedSize);
     auto *layout = new QVBoxLayout(this);
-    layout->setContentsMargins(0, 20, 0, 30);
-    layout->setSpacing(14);
+    layout->setContentsMargins(0, 16, 0, 30);
+    layout->setSpacing(10);
     layout->addWidget(makeHeader());
     layout->addWidget(divider());
     auto *description = centred(new LocalizedText(QStringLiteral("about_description"), language));
@@ -120,7 +120,8 @@ QWidget *AboutView::makeLinks()
     layout->setContentsMargins(sideMargin, 0, sideMargin, 0);
     layout->setSpacing(12);
     for (const Entry &entry : entries) {
-        auto *row = new LinkRow(QString::fromLatin1(entry.symbol));
+        auto *row = new RowButton(QString::fromLatin1(entry.symbol));
+        row->setTrailingSymbol(QStringLiteral("arrow.up.right"));
         row->setProperty("key", QString::fromLatin1(entry.key));
         connect(row, &QAbstractButton::clicked, this, [this, which = entry.row] {
             switch (which) {
@@ -160,7 +161,7 @@ QWidget *AboutView::makeFooter()
     return footer;
 }
 
-LinkRow *AboutView::row(Row row) const
+RowButton *AboutView::row(Row row) const
 {
     return m_rows.value(int(row));
 }
@@ -170,7 +171,7 @@ void AboutView::retranslate()
 {
     m_version->setText(m_language.localizedFormat(QStringLiteral("about_version"),
                                                   {AppInfo::appVersion(), AppInfo::buildNumber()}));
-    for (LinkRow *row : std::as_const(m_rows))
+    for (RowButton *row : std::as_const(m_rows))
         row->setRowText(m_language.localizedString(row->property("key").toString()));
     const qint64 year = UserCalendar::year(m_clock.now(), m_calendarLocale);
     m_copyright->setText(

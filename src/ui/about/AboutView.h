@@ -8,8 +8,8 @@
 
 class Clock;
 class LanguageManager;
-class LinkRow;
 class QLabel;
+class RowButton;
 
 // The whole content of the about window: who the program is, which version runs, three
 // outward links and the way into the feedback page, and the copyright line of the
@@ -38,7 +38,7 @@ public:
 
     static QByteArray systemCalendarLocale();
 
-    LinkRow *row(Row row) const;
+    RowButton *row(Row row) const;
     QLabel *copyrightLine() const { return m_copyright; }
 
 private:
@@ -54,6 +54,6 @@ private:
     QByteArray m_calendarLocale;
 
     QLabel *m_version = nullptr;
-    QList<LinkRow *> m_rows;
+    QList<RowButton *> m_rows;
     QLabel *m_copyright = nullptr;
 };

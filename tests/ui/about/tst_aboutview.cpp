@@ -1,7 +1,7 @@
 #include "core/i18n/LanguageManager.h"
 #include "ui/Appearance.h"
 #include "ui/about/AboutView.h"
-#include "ui/about/LinkRow.h"
+#include "ui/widgets/RowButton.h"
 
 #include "ConsoleCapture.h"
 #include "FakeClock.h"
@@ -109,7 +109,7 @@ private Q_SLOTS:
                                        AboutView::Row::support, AboutView::Row::feedback};
         const QStringList names{"Website", "Contact", "Support development", "Send feedback"};
         for (int i = 0; i < 4; ++i) {
-            LinkRow *row = view->row(rows[i]);
+            RowButton *row = view->row(rows[i]);
             QCOMPARE(row->accessibleName(), names[i]);
             QCOMPARE(QAccessible::queryAccessibleInterface(row)->role(), QAccessible::Button);
             QCOMPARE(row->cursor().shape(), Qt::PointingHandCursor);
