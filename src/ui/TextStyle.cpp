@@ -12,6 +12,8 @@ struct Metrics {
 Metrics metricsOf(TextStyle::Style style)
 {
     switch (style) {
+    case TextStyle::largeTitle:
+        return {26, QFont::Bold};
     case TextStyle::title:
         return {22, QFont::Bold};
     case TextStyle::title2:

@@ -8,7 +8,7 @@ class QLabel;
 // scales them from its 13-point body text.
 class TextStyle {
 public:
-    enum Style { title, title2, headline, body, subheadline, caption, caption2 };
+    enum Style { largeTitle, title, title2, headline, body, subheadline, caption, caption2 };
 
     static QFont font(const QFont &body, Style style);
     // Sets the label's font to `style` of the application's body font.

@@ -5,9 +5,9 @@
 #include "core/support/AppInfo.h"
 #include "core/support/Clock.h"
 #include "ui/LocalizedText.h"
+#include "ui/ProductHeader.h"
 #include "ui/TextStyle.h"
 #include "ui/widgets/RowButton.h"
-#include "ui/widgets/SymbolLabel.h"
 
 #include <QDesktopServices>
 #include <QFrame>
@@ -16,7 +16,6 @@
 
 namespace {
 
-const QColor symbolBlue(0x00, 0x7A, 0xFF);
 constexpr int sideMargin = 40;
 constexpr int headerSymbolSize = 48;
 
@@ -68,7 +67,7 @@ AboutView::AboutView(LanguageManager &language, const Clock &clock,
     auto *layout = new QVBoxLayout(this);
     layout->setContentsMargins(0, 16, 0, 30);
     layout->setSpacing(10);
-    layout->addWidget(makeHeader());
+    layout->addWidget(new ProductHeader(language, headerSymbolSize, TextStyle::title));
     layout->addWidget(divider());
     auto *description = centred(new LocalizedText(QStringLiteral("about_description"), language));
     TextStyle::makeSecondary(description);
@@ -81,25 +80,6 @@ AboutView::AboutView(LanguageManager &language, const Clock &clock,
     connect(&m_language, &LanguageManager::currentLanguageChanged, this, &AboutView::retranslate);
     connect(&m_language, &LanguageManager::bundleChanged, this, &AboutView::retranslate);
     retranslate();
-}
-
-QWidget *AboutView::makeHeader()
-{
-    auto *header = new QWidget;
-    auto *layout = new QVBoxLayout(header);
-    layout->setContentsMargins(0, 0, 0, 0);
-    layout->setSpacing(4);
-    auto *symbol = new SymbolLabel(QStringLiteral("shield.checkered"), headerSymbolSize);
-    symbol->setColour(symbolBlue);
-    layout->addWidget(symbol, 0, Qt::AlignHCenter);
-    auto *name = centred(new QLabel(QStringLiteral("Vandorel")));
-    TextStyle::apply(name, TextStyle::title);
-    layout->addWidget(name);
-    m_version = centred(new QLabel);
-    TextStyle::apply(m_version, TextStyle::subheadline);
-    TextStyle::makeSecondary(m_version);
-    layout->addWidget(m_version);
-    return header;
 }
 
 QWidget *AboutView::makeLinks()
@@ -169,8 +149,6 @@ RowButton *AboutView::row(Row row) const
 // The year is read from the clock each time the texts are made, so it follows the clock.
 void AboutView::retranslate()
 {
-    m_version->setText(m_language.localizedFormat(QStringLiteral("about_version"),
-                                                  {AppInfo::appVersion(), AppInfo::buildNumber()}));
     for (RowButton *row : std::as_const(m_rows))
         row->setRowText(m_language.localizedString(row->property("key").toString()));
     const qint64 year = UserCalendar::year(m_clock.now(), m_calendarLocale);

@@ -42,7 +42,6 @@ public:
     QLabel *copyrightLine() const { return m_copyright; }
 
 private:
-    QWidget *makeHeader();
     QWidget *makeLinks();
     QWidget *makeFooter();
     void retranslate();
@@ -53,7 +52,6 @@ private:
     Links m_links;
     QByteArray m_calendarLocale;
 
-    QLabel *m_version = nullptr;
     QList<RowButton *> m_rows;
     QLabel *m_copyright = nullptr;
 };
