@@ -9,6 +9,7 @@
 #include "core/support/Console.h"
 #include "core/support/SystemClock.h"
 #include "core/telemetry/AptabaseManager.h"
+#include "core/telemetry/AptabaseTelemetry.h"
 #include "core/updates/UpdateManager.h"
 #include "foundation/QtTimerFactory.h"
 #include "platform/PlatformBackend.h"
@@ -36,12 +37,14 @@ VandorelApp::VandorelApp(const Options &options)
                     Aptabase::shared().startPolling();
             });
     connect(qApp, &QCoreApplication::aboutToQuit, this, [] { Aptabase::shared().stopPolling(); });
+    m_telemetry = std::make_unique<AptabaseTelemetry>();
+    m_language = &LanguageManager::shared();
     m_prompter = std::make_unique<MessageBoxPrompter>();
     m_updateSheet = std::make_unique<UpdateSheetDialogPresenter>();
     UpdateManager::Options updates = UpdateManager::defaultOptions();
     updates.sheet = m_updateSheet.get();
     updates.prompter = m_prompter.get();
-    updates.language = &LanguageManager::shared();
+    updates.language = m_language;
     // Process-wide from here on, as the shared manager is.
     UpdateManager::setShared(new UpdateManager(updates));
 
@@ -56,6 +59,8 @@ VandorelApp::VandorelApp(const Options &options)
     m_environment.events = m_events.get();
     m_environment.alerts = m_prompter.get();
     m_environment.log = &LogManager::shared();
+    m_environment.telemetry = m_telemetry.get();
+    m_environment.texts = m_language;
     m_environment.launchedAtLogin = options.launchedAtLogin;
 
     m_delegate = new AppDelegate(this);

@@ -11,9 +11,11 @@ class BrowserManager;
 class Clock;
 class EmailClientManager;
 class HandlerDatabase;
+class LanguageManager;
 class ModalPrompter;
 class SingleInstance;
 class SystemEvents;
+class Telemetry;
 class TimerFactory;
 class UpdateSheetPresenter;
 
@@ -31,6 +33,9 @@ public:
 
     BrowserManager &browserManager() { return *m_browserManager; }
     EmailClientManager &emailClientManager() { return *m_emailClientManager; }
+    // The process-wide language manager, made at start; windows and pages are handed it.
+    LanguageManager &languageManager() { return *m_language; }
+    Telemetry &telemetry() { return *m_telemetry; }
 
 private:
     void ensureSingleInstance();
@@ -42,6 +47,8 @@ private:
     std::unique_ptr<Clock> m_clock;
     std::unique_ptr<TimerFactory> m_timers;
     std::unique_ptr<SystemEvents> m_events;
+    std::unique_ptr<Telemetry> m_telemetry;
+    LanguageManager *m_language = nullptr;
     GuardEnvironment m_environment;
     std::unique_ptr<BrowserManager> m_browserManager;
     std::unique_ptr<EmailClientManager> m_emailClientManager;

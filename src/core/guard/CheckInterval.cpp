@@ -1,6 +1,6 @@
 #include "core/guard/CheckInterval.h"
 
-#include "core/i18n/LanguageManager.h"
+#include "core/i18n/TextLookup.h"
 #include "core/support/RowTable.h"
 
 #include <array>
@@ -53,7 +53,7 @@ QString CheckInterval::localizationKey() const
     return QLatin1StringView(rowOf(m_value).key);
 }
 
-QString CheckInterval::displayName() const
+QString CheckInterval::displayName(const TextLookup &texts) const
 {
-    return LanguageManager::shared().localizedString(localizationKey());
+    return texts.localizedString(localizationKey());
 }

@@ -5,6 +5,8 @@
 
 #include <optional>
 
+class TextLookup;
+
 // How often a guard checks on its own. Stored by its raw value.
 class CheckInterval {
 public:
@@ -20,7 +22,7 @@ public:
     QString id() const { return rawValue(); }
     double timeInterval() const; // seconds; 0 for none
     QString localizationKey() const;
-    QString displayName() const;
+    QString displayName(const TextLookup &texts) const;
 
 private:
     Value m_value;

@@ -6,6 +6,8 @@ class LogManager;
 class ModalPrompter;
 class SettingsStore;
 class SystemEvents;
+class Telemetry;
+class TextLookup;
 class TimerFactory;
 
 // The services a guard works with, wired once at start-up (or by a test).
@@ -16,7 +18,9 @@ struct GuardEnvironment {
     TimerFactory *timers = nullptr;
     ModalPrompter *alerts = nullptr; // the change alerts
     LogManager *log = nullptr;
-    SystemEvents *events = nullptr; // may be absent: no event then runs a check
+    Telemetry *telemetry = nullptr;    // required
+    const TextLookup *texts = nullptr; // the alert's texts; required when there are alerts
+    SystemEvents *events = nullptr;    // may be absent: no event then runs a check
     // The program was started by the login mechanism (the autostart entry's --login).
     bool launchedAtLogin = false;
 };

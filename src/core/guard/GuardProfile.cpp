@@ -1,13 +1,11 @@
 #include "core/guard/GuardProfile.h"
 
-#include "core/changelog/LogManager.h"
-#include "core/telemetry/AptabaseManager.h"
-
 namespace {
 
 GuardProfile makeBrowserProfile()
 {
     GuardProfile p;
+    p.role = GuardProfile::Role::browser;
     p.targetKey = QStringLiteral("targetDefaultBrowser");
     p.monitoringEnabledKey = QStringLiteral("monitoringEnabled");
     p.checkIntervalKey = QStringLiteral("checkInterval");
@@ -61,11 +59,8 @@ GuardProfile makeBrowserProfile()
     p.telemetryType = QStringLiteral("browser");
     p.settingsPrefix = QStringLiteral("browser");
     p.alertType = QStringLiteral("browser_changed");
-    p.trackTargetSet = &AptabaseManager::trackBrowserSet;
-    p.trackDefaultChanged = &AptabaseManager::trackBrowserChanged;
     p.alertTitleKey = QStringLiteral("alert_browser_changed_title");
     p.alertMessageKey = QStringLiteral("alert_browser_changed_message %@ %@");
-    p.logChange = &LogManager::logBrowserChange;
 
     p.firstLaunchLine = QStringLiteral("✨ First launch - defaults set");
     p.launchedAtLoginLine = QStringLiteral("🚀 Launched at login");
@@ -86,6 +81,7 @@ GuardProfile makeBrowserProfile()
 GuardProfile makeEmailProfile()
 {
     GuardProfile p;
+    p.role = GuardProfile::Role::email;
     p.targetKey = QStringLiteral("targetDefaultEmailClient");
     p.monitoringEnabledKey = QStringLiteral("emailMonitoringEnabled");
     p.checkIntervalKey = QStringLiteral("emailCheckInterval");
@@ -155,11 +151,8 @@ GuardProfile makeEmailProfile()
     p.telemetryType = QStringLiteral("email");
     p.settingsPrefix = QStringLiteral("email");
     p.alertType = QStringLiteral("email_client_changed");
-    p.trackTargetSet = &AptabaseManager::trackEmailClientSet;
-    p.trackDefaultChanged = &AptabaseManager::trackEmailClientChanged;
     p.alertTitleKey = QStringLiteral("alert_email_changed_title");
     p.alertMessageKey = QStringLiteral("alert_email_changed_message %@ %@");
-    p.logChange = &LogManager::logEmailChange;
 
     p.firstLaunchLine = QStringLiteral("✨ Email: First launch - defaults set");
     p.launchedAtLoginLine = QStringLiteral("🚀 Email: Launched at login");

@@ -3,15 +3,18 @@
 #include <QString>
 #include <QStringList>
 
-class LogManager;
-
 // Everything in which the browser guard and the mail guard differ, as data. The guard
 // engine holds all the logic; a profile only names keys, schemes, lists and texts.
 struct GuardProfile {
+    // Which default the guard keeps: it picks the log and analytics operations by it.
+    enum class Role { browser, email };
+
     enum class Resolution {
         FirstOfSchemeLists, // first application listed for each scheme in turn (https, then http)
         SchemeDefault,      // the scheme's default application directly (mailto)
     };
+
+    Role role;
 
     // Settings-store keys.
     QString targetKey;
@@ -42,16 +45,10 @@ struct GuardProfile {
     QString telemetryType;  // "browser" / "email"
     QString settingsPrefix; // "browser" / "email" in "browser_check_interval"
     QString alertType;      // "browser_changed" / "email_client_changed"
-    // The analytics operations of a new target and of a change of default.
-    void (*trackTargetSet)(const QString &name);
-    void (*trackDefaultChanged)(const QString &from, const QString &to, bool autoFix);
 
     // Text keys of the change alert.
     QString alertTitleKey;
     QString alertMessageKey;
-
-    // How a change is written to the change log.
-    void (LogManager::*logChange)(const QString &from, const QString &to);
 
     // Console lines (and the prefixes that a value follows).
     QString firstLaunchLine;

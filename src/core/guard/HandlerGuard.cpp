@@ -2,12 +2,12 @@
 
 #include "core/changelog/LogManager.h"
 #include "core/guard/HandlerDetector.h"
-#include "core/i18n/LanguageManager.h"
+#include "core/i18n/TextLookup.h"
 #include "core/support/CheckedMath.h"
 #include "core/support/Clock.h"
 #include "core/support/Console.h"
 #include "core/support/TextFormat.h"
-#include "core/telemetry/AptabaseManager.h"
+#include "core/telemetry/Telemetry.h"
 #include "foundation/Timer.h"
 #include "foundation/TimerFactory.h"
 #include "platform/HandlerDatabase.h"
@@ -68,15 +68,19 @@ void HandlerGuard::setDefaultsIfNeeded()
 
 void HandlerGuard::setTarget(const std::optional<HandlerRecord> &record)
 {
-    if (m_settings.setTarget(record))
-        m_profile.trackTargetSet(record->name);
+    if (m_settings.setTarget(record)) {
+        if (isBrowser())
+            m_env.telemetry->trackBrowserSet(record->name);
+        else
+            m_env.telemetry->trackEmailClientSet(record->name);
+    }
     Q_EMIT objectWillChange();
 }
 
 void HandlerGuard::setMonitoringEnabled(bool enabled)
 {
     m_settings.setMonitoringEnabled(enabled);
-    AptabaseManager::trackMonitoringToggled(m_profile.telemetryType, enabled);
+    m_env.telemetry->trackMonitoringToggled(m_profile.telemetryType, enabled);
     if (enabled)
         startMonitoring();
     else
@@ -103,7 +107,7 @@ void HandlerGuard::setSnoozeDuration(SnoozeDuration duration)
 // Settings are reported under the guard's prefix: "browser_check_interval".
 void HandlerGuard::trackSetting(QStringView name, const QString &value) const
 {
-    AptabaseManager::trackSettingsChanged(m_profile.settingsPrefix + name, value);
+    m_env.telemetry->trackSettingsChanged(m_profile.settingsPrefix + name, value);
 }
 
 namespace {
@@ -328,9 +332,15 @@ void HandlerGuard::check()
 
 void HandlerGuard::recordChange(const HandlerRecord &from, const HandlerRecord &to, bool autoFix)
 {
-    if (m_env.log)
-        (m_env.log->*m_profile.logChange)(from.name, to.name);
-    m_profile.trackDefaultChanged(from.name, to.name, autoFix);
+    if (isBrowser()) {
+        if (m_env.log)
+            m_env.log->logBrowserChange(from.name, to.name);
+        m_env.telemetry->trackBrowserChanged(from.name, to.name, autoFix);
+    } else {
+        if (m_env.log)
+            m_env.log->logEmailChange(from.name, to.name);
+        m_env.telemetry->trackEmailClientChanged(from.name, to.name, autoFix);
+    }
     setChangeCount(checkedIncrement(changeCount()));
     setLastChange(m_env.clock->now());
 }
@@ -430,10 +440,10 @@ void HandlerGuard::cancelChange()
 
 void HandlerGuard::showChangedAlert(const HandlerRecord &current, const HandlerRecord &target)
 {
-    AptabaseManager::trackAlertShown(m_profile.alertType);
+    m_env.telemetry->trackAlertShown(m_profile.alertType);
     if (!m_env.alerts)
         return;
-    const LanguageManager &language = LanguageManager::shared();
+    const TextLookup &language = *m_env.texts;
     ModalPrompt alert;
     alert.title = language.localizedString(m_profile.alertTitleKey);
     alert.text = TextFormat::format(language.localizedString(m_profile.alertMessageKey),
@@ -456,10 +466,10 @@ void HandlerGuard::showChangedAlert(const HandlerRecord &current, const HandlerR
 void HandlerGuard::alertAnswered(int button, const HandlerRecord &target)
 {
     if (button == 0) {
-        AptabaseManager::trackAlertAction(m_profile.alertType, QStringLiteral("fix"));
+        m_env.telemetry->trackAlertAction(m_profile.alertType, QStringLiteral("fix"));
         setDefault(target);
     } else {
-        AptabaseManager::trackAlertAction(m_profile.alertType, QStringLiteral("keep"));
+        m_env.telemetry->trackAlertAction(m_profile.alertType, QStringLiteral("keep"));
         snoozeMonitoring();
     }
 }
@@ -471,5 +481,5 @@ void HandlerGuard::snoozeMonitoring()
     // A new snooze replaces a running one; its end is computed from now.
     m_snoozeUntil = now.addMSecs(qRound64(seconds * 1000));
     setSnoozed(true);
-    AptabaseManager::trackSnoozeActivated(m_profile.telemetryType, snoozeDuration().rawValue());
+    m_env.telemetry->trackSnoozeActivated(m_profile.telemetryType, snoozeDuration().rawValue());
 }

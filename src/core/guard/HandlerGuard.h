@@ -99,6 +99,7 @@ private:
     void endChange();
     void recordChange(const HandlerRecord &from, const HandlerRecord &to, bool autoFix);
     void trackSetting(QStringView name, const QString &value) const;
+    bool isBrowser() const { return m_profile.role == GuardProfile::Role::browser; }
 
     void showChangedAlert(const HandlerRecord &current, const HandlerRecord &target);
     void alertAnswered(int button, const HandlerRecord &target);

@@ -1,6 +1,6 @@
 #include "core/guard/SnoozeDuration.h"
 
-#include "core/i18n/LanguageManager.h"
+#include "core/i18n/TextLookup.h"
 #include "core/support/RowTable.h"
 
 #include <QTimeZone>
@@ -63,7 +63,7 @@ double SnoozeDuration::timeInterval(const QDateTime &now) const
     return static_cast<double>(now.msecsTo(endOfDay)) / 1000.0;
 }
 
-QString SnoozeDuration::displayName() const
+QString SnoozeDuration::displayName(const TextLookup &texts) const
 {
-    return LanguageManager::shared().localizedString(localizationKey());
+    return texts.localizedString(localizationKey());
 }

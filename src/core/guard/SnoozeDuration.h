@@ -6,6 +6,8 @@
 
 #include <optional>
 
+class TextLookup;
+
 // How long the keep answer silences a guard. Stored by its raw value.
 class SnoozeDuration {
 public:
@@ -24,7 +26,7 @@ public:
     // exist.
     double timeInterval(const QDateTime &now) const;
     QString localizationKey() const;
-    QString displayName() const;
+    QString displayName(const TextLookup &texts) const;
 
 private:
     Value m_value;

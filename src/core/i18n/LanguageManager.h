@@ -1,6 +1,7 @@
 #pragma once
 
 #include "core/i18n/AppLanguage.h"
+#include "core/i18n/TextLookup.h"
 
 #include <QObject>
 #include <QString>
@@ -18,11 +19,12 @@ class TimerFactory;
 // Both properties tell their observers on every assignment, also when the value stays the
 // same. Setting a language stores its code at once and swaps the bundle 50 ms later, so
 // for that short while the new selection shows with the old texts.
-class LanguageManager : public QObject {
+class LanguageManager : public QObject, public TextLookup {
     Q_OBJECT
 public:
     // The process-wide manager over the standard settings store, real timers and the
-    // system's preferred languages. Made on first use; a test may put another in its place.
+    // system's preferred languages. The application makes it at start; a test may put
+    // another in its place.
     static LanguageManager &shared();
     static void setShared(LanguageManager *manager);
 
@@ -44,7 +46,7 @@ public:
 
     const QTranslator *bundle() const { return m_bundle; }
 
-    QString localizedString(const QString &key) const;
+    QString localizedString(const QString &key) const override;
     // Looks `key` up and fills in `values` (printf-style %@, %lld, positional forms).
     QString localizedFormat(const QString &key, const QVariantList &values) const;
 

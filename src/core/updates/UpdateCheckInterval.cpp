@@ -1,6 +1,6 @@
 #include "core/updates/UpdateCheckInterval.h"
 
-#include "core/i18n/LanguageManager.h"
+#include "core/i18n/TextLookup.h"
 #include "core/support/RowTable.h"
 
 #include <array>
@@ -52,7 +52,7 @@ QString UpdateCheckInterval::localizationKey() const
     return QLatin1StringView(rowOf(m_value).key);
 }
 
-QString UpdateCheckInterval::displayName() const
+QString UpdateCheckInterval::displayName(const TextLookup &texts) const
 {
-    return LanguageManager::shared().localizedString(localizationKey());
+    return texts.localizedString(localizationKey());
 }

@@ -5,6 +5,8 @@
 
 #include <optional>
 
+class TextLookup;
+
 // How often the automatic update check repeats. Stored by its raw value.
 class UpdateCheckInterval {
 public:
@@ -19,7 +21,7 @@ public:
     QString rawValue() const;
     double timeInterval() const; // seconds; 0 for never
     QString localizationKey() const;
-    QString displayName() const;
+    QString displayName(const TextLookup &texts) const;
 
 private:
     Value m_value;

@@ -2,6 +2,7 @@
 #include "FakeClock.h"
 #include "FakeHandlerDatabase.h"
 #include "FakeTimerFactory.h"
+#include "RecordingTelemetry.h"
 #include "TempSettings.h"
 #include "core/guard/BrowserManager.h"
 #include "core/guard/EmailClientManager.h"
@@ -19,9 +20,11 @@ class GuardFrameTest : public QObject {
         FakeHandlerDatabase handlers;
         FakeClock clock;
         FakeTimerFactory timers;
+        RecordingTelemetry telemetry;
         GuardEnvironment environment(SettingsStore *store = nullptr, bool atLogin = false)
         {
             GuardEnvironment env{store ? store : &settings.store(), &handlers, &clock, &timers};
+            env.telemetry = &telemetry;
             env.launchedAtLogin = atLogin;
             return env;
         }

@@ -1,20 +1,20 @@
 #pragma once
 
 #include "ConsoleCapture.h"
+#include "EnglishTexts.h"
 #include "FakeClock.h"
 #include "FakeHandlerDatabase.h"
 #include "FakeTimerFactory.h"
+#include "RecordingTelemetry.h"
 #include "ScriptedPrompter.h"
 #include "TempSettings.h"
 #include "core/changelog/LogManager.h"
 #include "core/guard/GuardEnvironment.h"
-#include "core/i18n/LanguageManager.h"
 #include "platform/SystemEvents.h"
 
 #include <QTest>
 
 #include <chrono>
-#include <memory>
 
 using namespace std::chrono_literals;
 
@@ -35,12 +35,11 @@ struct GuardWorld {
     ScriptedPrompter alerts;
     SystemEvents events;
     LogManager log{settings.store(), clock};
-    std::unique_ptr<LanguageManager> language;
+    RecordingTelemetry telemetry;
+    EnglishTexts texts;
 
     GuardWorld()
     {
-        language = std::make_unique<LanguageManager>(settings.store(), timers, QStringList{"en"});
-        LanguageManager::setShared(language.get());
         for (const auto &[id, name] : {std::pair("firefox-esr", "Firefox"),
                                        {"chromium", "Chromium"},
                                        {"epiphany", "Web"},
@@ -50,11 +49,10 @@ struct GuardWorld {
         browsersDefault("firefox-esr");
         mailDefault("thunderbird");
     }
-    ~GuardWorld() { LanguageManager::setShared(nullptr); }
-
     GuardEnvironment environment()
     {
-        return {&settings.store(), &handlers, &clock, &timers, &alerts, &log, &events};
+        return {&settings.store(), &handlers, &clock, &timers, &alerts, &log,
+                &telemetry,        &texts,    &events};
     }
 
     // Another program takes the role over; the other browsers follow it.

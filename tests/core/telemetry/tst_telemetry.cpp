@@ -7,6 +7,7 @@
 #include "core/guard/EmailClientManager.h"
 #include "core/support/AppInfo.h"
 #include "core/telemetry/AptabaseManager.h"
+#include "core/telemetry/AptabaseTelemetry.h"
 #include "core/telemetry/SessionTracker.h"
 
 #include "BuildConfig.h"
@@ -60,12 +61,23 @@ Events named(const QJsonArray &events)
 class TelemetryTest : public QObject {
     Q_OBJECT
 
+    // The guards report through the production telemetry, to the loopback ingestion.
+    struct ReportingWorld : GuardWorld {
+        AptabaseTelemetry aptabase;
+        GuardEnvironment environment()
+        {
+            GuardEnvironment env = GuardWorld::environment();
+            env.telemetry = &aptabase;
+            return env;
+        }
+    };
+
 private Q_SLOTS:
     void firstLaunchEventsWaitForTheFirstActivation()
     {
         LoopbackAnalytics ingestion;
         QVERIFY(ingestion.aptabase.client());
-        GuardWorld world;
+        ReportingWorld world;
         BrowserManager browser(world.environment());
         EmailClientManager email(world.environment());
         QTest::qWait(100);
@@ -93,7 +105,7 @@ private Q_SLOTS:
     void changesOfDefaultAndTheirAlerts()
     {
         LoopbackAnalytics ingestion;
-        GuardWorld world;
+        ReportingWorld world;
         BrowserManager browser(world.environment());
         EmailClientManager email(world.environment());
         const qsizetype firstLaunch = 12;

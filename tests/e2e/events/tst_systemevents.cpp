@@ -4,6 +4,7 @@
 #include "FakeLogind.h"
 #include "FakeTimerFactory.h"
 #include "PrivateBuses.h"
+#include "RecordingTelemetry.h"
 #include "TempSettings.h"
 #include "core/guard/BrowserManager.h"
 #include "core/guard/EmailClientManager.h"
@@ -117,11 +118,13 @@ private Q_SLOTS:
         FakeHandlerDatabase handlers;
         FakeClock clock;
         FakeTimerFactory timers;
+        RecordingTelemetry telemetry;
         GuardEnvironment env;
         env.settings = &settings.store();
         env.handlers = &handlers;
         env.clock = &clock;
         env.timers = &timers;
+        env.telemetry = &telemetry;
         env.events = &events;
         BrowserManager browser(env);
         EmailClientManager email(env);

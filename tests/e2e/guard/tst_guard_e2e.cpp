@@ -1,17 +1,17 @@
 #include "ConsoleCapture.h"
+#include "EnglishTexts.h"
 #include "FakeClock.h"
 #include "FakeTimerFactory.h"
+#include "RecordingTelemetry.h"
 #include "ScriptedPrompter.h"
 #include "TempSettings.h"
 #include "XdgTree.h"
 #include "core/changelog/LogManager.h"
 #include "core/guard/BrowserManager.h"
 #include "core/guard/EmailClientManager.h"
-#include "core/i18n/LanguageManager.h"
 #include "platform/freedesktop/FreedesktopHandlerDatabase.h"
 
 #include <QProcess>
-#include <QScopeGuard>
 #include <QStandardPaths>
 #include <QTest>
 
@@ -109,9 +109,8 @@ private Q_SLOTS:
         FakeTimerFactory timers;
         ScriptedPrompter alerts;
         LogManager log(settings.store(), clock);
-        LanguageManager language(settings.store(), timers, {"en"});
-        LanguageManager::setShared(&language);
-        const auto unshare = qScopeGuard([] { LanguageManager::setShared(nullptr); });
+        RecordingTelemetry telemetry;
+        EnglishTexts texts;
         GuardEnvironment env;
         env.settings = &settings.store();
         env.handlers = &handlers;
@@ -119,6 +118,8 @@ private Q_SLOTS:
         env.timers = &timers;
         env.alerts = &alerts;
         env.log = &log;
+        env.telemetry = &telemetry;
+        env.texts = &texts;
 
         QVERIFY(xdgMimeDefault(target, schemes));
         std::unique_ptr<HandlerGuard> guard;
