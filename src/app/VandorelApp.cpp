@@ -29,7 +29,7 @@
 VandorelApp::VandorelApp(const Options &options)
 {
     ensureSingleInstance();
-    AptabaseManager::shared();
+    startAnalytics();
     // Events wait in the queue until a window of ours first becomes active.
     connect(qGuiApp, &QGuiApplication::applicationStateChanged, this,
             [](Qt::ApplicationState state) {
@@ -40,13 +40,7 @@ VandorelApp::VandorelApp(const Options &options)
     m_telemetry = std::make_unique<AptabaseTelemetry>();
     m_language = &LanguageManager::shared();
     m_prompter = std::make_unique<MessageBoxPrompter>();
-    m_updateSheet = std::make_unique<UpdateSheetDialogPresenter>();
-    UpdateManager::Options updates = UpdateManager::defaultOptions();
-    updates.sheet = m_updateSheet.get();
-    updates.prompter = m_prompter.get();
-    updates.language = m_language;
-    // Process-wide from here on, as the shared manager is.
-    UpdateManager::setShared(new UpdateManager(updates));
+    startUpdates();
 
     m_handlers = PlatformBackend::createHandlerDatabase();
     m_clock = std::make_unique<SystemClock>();
@@ -73,6 +67,39 @@ VandorelApp::VandorelApp(const Options &options)
 }
 
 VandorelApp::~VandorelApp() = default;
+
+// The analytics client learns the build's hosts and versions and the platform's facts here;
+// it knows nothing of this program by itself.
+void VandorelApp::startAnalytics()
+{
+    m_deviceFacts = PlatformBackend::createDeviceFacts();
+    EnvironmentInfo env;
+    env.isDebug = BuildConfig::debugBuild;
+    env.osName = m_deviceFacts->osName();
+    env.osVersion = m_deviceFacts->osVersion();
+    env.locale = EnvironmentInfo::systemLanguage();
+    env.appVersion = QString::fromUtf8(BuildConfig::appVersion);
+    env.appBuildNumber = QString::fromUtf8(BuildConfig::buildNumber);
+    env.deviceModel = m_deviceFacts->deviceModel();
+    // Process-wide from here on, as the shared client is: it may still be flushing at exit.
+    Aptabase::setShared(new Aptabase(env, {QString::fromUtf8(BuildConfig::analyticsUsHost),
+                                           QString::fromUtf8(BuildConfig::analyticsEuHost)}));
+    AptabaseManager::setDeviceFacts(m_deviceFacts.get());
+    AptabaseManager::shared();
+}
+
+void VandorelApp::startUpdates()
+{
+    m_installLayout = PlatformBackend::createInstallLayout();
+    m_updateSheet = std::make_unique<UpdateSheetDialogPresenter>();
+    UpdateManager::Options updates = UpdateManager::defaultOptions();
+    updates.install = m_installLayout.get();
+    updates.sheet = m_updateSheet.get();
+    updates.prompter = m_prompter.get();
+    updates.language = m_language;
+    // Process-wide from here on, as the shared manager is.
+    UpdateManager::setShared(new UpdateManager(updates));
+}
 
 void VandorelApp::ensureSingleInstance()
 {

@@ -9,8 +9,10 @@
 class AppDelegate;
 class BrowserManager;
 class Clock;
+class DeviceFacts;
 class EmailClientManager;
 class HandlerDatabase;
+class InstallLayout;
 class LanguageManager;
 class ModalPrompter;
 class SingleInstance;
@@ -39,8 +41,12 @@ public:
 
 private:
     void ensureSingleInstance();
+    void startAnalytics();
+    void startUpdates();
 
     std::unique_ptr<SingleInstance> m_singleInstance;
+    std::unique_ptr<DeviceFacts> m_deviceFacts;
+    std::unique_ptr<InstallLayout> m_installLayout;
     std::unique_ptr<ModalPrompter> m_prompter;
     std::unique_ptr<UpdateSheetPresenter> m_updateSheet;
     std::unique_ptr<HandlerDatabase> m_handlers;

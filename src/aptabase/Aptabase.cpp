@@ -2,8 +2,6 @@
 
 #include "aptabase/DebugPrint.h"
 
-#include "BuildConfig.h"
-
 #include <QMetaType>
 #include <QStringList>
 
@@ -49,12 +47,10 @@ void Aptabase::setShared(Aptabase *instance)
     sharedInstance = instance;
 }
 
-Aptabase::Aptabase(EnvironmentInfo env)
+Aptabase::Aptabase(EnvironmentInfo env, RegionHosts hosts)
     : m_env(std::move(env)), m_hosts{
-                                 {QStringLiteral("US"),
-                                  QString::fromUtf8(BuildConfig::analyticsUsHost)},
-                                 {QStringLiteral("EU"),
-                                  QString::fromUtf8(BuildConfig::analyticsEuHost)},
+                                 {QStringLiteral("US"), std::move(hosts.us)},
+                                 {QStringLiteral("EU"), std::move(hosts.eu)},
                                  {QStringLiteral("DEV"), QStringLiteral("http://localhost:3000")},
                                  {QStringLiteral("SH"), QString()},
                              }

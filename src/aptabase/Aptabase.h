@@ -20,12 +20,20 @@ class QNetworkAccessManager;
 // about to quit; until the first startPolling() events only wait in the queue.
 class Aptabase {
 public:
+    // Base addresses of the ingestion servers of the regions that app keys name.
+    struct RegionHosts {
+        QString us;
+        QString eu;
+    };
+
+    // The instance the host application has put in place, or else one made on the first
+    // touch that knows neither the system nor the regions' servers.
     static Aptabase &shared();
-    // Lets a test put its own instance (kept by the caller) behind shared(); none goes back
-    // to a default one made on the next touch.
+    // Puts an instance (kept by the caller) behind shared(); none goes back to a default one
+    // made on the next touch.
     static void setShared(Aptabase *instance);
 
-    explicit Aptabase(EnvironmentInfo env = EnvironmentInfo::current());
+    explicit Aptabase(EnvironmentInfo env = {}, RegionHosts hosts = {});
     ~Aptabase();
     Aptabase(const Aptabase &) = delete;
     Aptabase &operator=(const Aptabase &) = delete;

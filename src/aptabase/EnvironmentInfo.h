@@ -2,7 +2,9 @@
 
 #include <QString>
 
-// A snapshot of the running system that every event carries.
+// A snapshot of the running program and system that every event carries. The host
+// application fills it in: its own version texts and build kind, and what its platform says
+// about the operating system and the machine.
 struct EnvironmentInfo {
     bool isDebug = false;
     QString osName;
@@ -12,13 +14,6 @@ struct EnvironmentInfo {
     QString appBuildNumber;
     QString deviceModel;
 
-    static EnvironmentInfo current();
-
-    // "12" gives "12.0.0", "22.04" gives "22.4.0"; parts that are not numbers count as 0.
-    static QString paddedVersion(const QString &productVersion);
-    // The first non-empty of: the DMI product name, the device-tree model,
-    // SIMULATOR_MODEL_IDENTIFIER, the machine field of uname (empty if uname fails).
-    static QString deviceModelFrom(const QString &dmiProductNamePath,
-                                   const QString &deviceTreeModelPath);
-    static QString deviceModelOfThisMachine();
+    // The language code of the system's locale ("de"); empty for the C locale.
+    static QString systemLanguage();
 };

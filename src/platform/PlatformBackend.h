@@ -1,6 +1,8 @@
 #pragma once
 
+#include "platform/DeviceFacts.h"
 #include "platform/HandlerDatabase.h"
+#include "platform/InstallLayout.h"
 #include "platform/LoginItem.h"
 #include "platform/SingleInstance.h"
 #include "platform/SystemEvents.h"
@@ -16,4 +18,6 @@ public:
     static std::unique_ptr<SystemEvents> createSystemEvents();
     // Launch at login of the running executable.
     static std::unique_ptr<LoginItem> createLoginItem(const QString &appId);
+    static std::unique_ptr<DeviceFacts> createDeviceFacts();
+    static std::unique_ptr<InstallLayout> createInstallLayout();
 };

@@ -1,9 +1,7 @@
 #include "aptabase/ConcurrentQueue.h"
 #include "aptabase/DebugPrint.h"
-#include "aptabase/EnvironmentInfo.h"
 #include "aptabase/Event.h"
 
-#include <QTemporaryDir>
 #include <QTest>
 #include <QThread>
 #include <QTimeZone>
@@ -11,39 +9,6 @@
 class TestAptabaseWire : public QObject {
     Q_OBJECT
 private slots:
-    void osVersionHasThreeIntegers()
-    {
-        QCOMPARE(EnvironmentInfo::paddedVersion("12"), "12.0.0");
-        QCOMPARE(EnvironmentInfo::paddedVersion("22.04"), "22.4.0");
-        QCOMPARE(EnvironmentInfo::paddedVersion("1.2.3.4"), "1.2.3");
-        QCOMPARE(EnvironmentInfo::paddedVersion("n/a"), "0.0.0");
-    }
-
-    void deviceModelFallsBackInOrder()
-    {
-        QTemporaryDir dir;
-        const QString dmi = dir.filePath("product_name");
-        const QString tree = dir.filePath("model");
-        const auto write = [](const QString &path, const QByteArray &bytes) {
-            QFile file(path);
-            QVERIFY(file.open(QIODevice::WriteOnly | QIODevice::Truncate));
-            file.write(bytes);
-        };
-        qunsetenv("SIMULATOR_MODEL_IDENTIFIER");
-        QVERIFY(!EnvironmentInfo::deviceModelFrom(dmi, tree).isEmpty()); // uname's machine
-
-        write(tree, QByteArray("Raspberry Pi 4 Model B Rev 1.4\0", 31));
-        QCOMPARE(EnvironmentInfo::deviceModelFrom(dmi, tree), "Raspberry Pi 4 Model B Rev 1.4");
-        write(dmi, "\n"); // blank: the next source
-        QCOMPARE(EnvironmentInfo::deviceModelFrom(dmi, tree), "Raspberry Pi 4 Model B Rev 1.4");
-        write(dmi, "Latitude 7440\n");
-        QCOMPARE(EnvironmentInfo::deviceModelFrom(dmi, tree), "Latitude 7440");
-
-        qputenv("SIMULATOR_MODEL_IDENTIFIER", "Sim1,1");
-        QCOMPARE(EnvironmentInfo::deviceModelFrom(dir.filePath("x"), dir.filePath("y")), "Sim1,1");
-        qunsetenv("SIMULATOR_MODEL_IDENTIFIER");
-    }
-
     void timestampIsUtcInWholeSeconds()
     {
         const QDateTime berlin(QDate(2024, 3, 10), QTime(23, 59, 59, 999),

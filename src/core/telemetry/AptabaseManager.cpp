@@ -3,26 +3,20 @@
 #include "core/support/AppInfo.h"
 #include "core/support/Console.h"
 #include "core/telemetry/SessionTracker.h"
+#include "platform/DeviceFacts.h"
 
 #include "aptabase/Aptabase.h"
 #include "aptabase/EnvironmentInfo.h"
 
 #include <QLocale>
-#include <QSysInfo>
 
 namespace {
+
+const DeviceFacts *deviceFacts = nullptr;
 
 QString orUnknown(const QString &code)
 {
     return code.isEmpty() ? QStringLiteral("unknown") : code;
-}
-
-QString languageCode(const QLocale &locale)
-{
-    const QLocale::Language language = locale.language();
-    if (language == QLocale::C || language == QLocale::AnyLanguage)
-        return {};
-    return QLocale::languageToCode(language);
 }
 
 QString regionCode(const QLocale &locale)
@@ -39,6 +33,11 @@ AptabaseManager &AptabaseManager::shared()
 {
     static AptabaseManager manager(QStringLiteral("A-EU-3948201756"));
     return manager;
+}
+
+void AptabaseManager::setDeviceFacts(const DeviceFacts *facts)
+{
+    deviceFacts = facts;
 }
 
 AptabaseManager::AptabaseManager(const QString &appKey)
@@ -145,8 +144,8 @@ QVariantMap AptabaseManager::systemProperties()
     const QLocale locale = QLocale::system();
     QVariantMap props;
     props.insert(QStringLiteral("macos_version"),
-                 EnvironmentInfo::paddedVersion(QSysInfo::productVersion()));
-    props.insert(QStringLiteral("language"), orUnknown(languageCode(locale)));
+                 deviceFacts ? deviceFacts->osVersion() : QString());
+    props.insert(QStringLiteral("language"), orUnknown(EnvironmentInfo::systemLanguage()));
     props.insert(QStringLiteral("locale"), locale.name());
     props.insert(QStringLiteral("region"), orUnknown(regionCode(locale)));
     props.insert(QStringLiteral("app_version"), AppInfo::appVersion());
@@ -157,5 +156,5 @@ QVariantMap AptabaseManager::systemProperties()
 
 QString AptabaseManager::getDeviceModel()
 {
-    return EnvironmentInfo::deviceModelOfThisMachine();
+    return deviceFacts ? deviceFacts->deviceModel() : QString();
 }

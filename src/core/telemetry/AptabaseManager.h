@@ -3,6 +3,8 @@
 #include <QString>
 #include <QVariantMap>
 
+class DeviceFacts;
+
 // The application's whole vocabulary of usage analytics, in front of the analytics client.
 // shared() starts the client once; the track* operations go straight to the client, so they
 // work (or fall silent, when the client refused its key) whether or not shared() was touched.
@@ -10,6 +12,9 @@
 class AptabaseManager {
 public:
     static AptabaseManager &shared();
+    // The machine that the system properties describe; the application hands in its
+    // platform's facts at start. Without any, the version and model read as empty.
+    static void setDeviceFacts(const DeviceFacts *facts);
 
     static void trackEvent(const QString &eventName, const QVariantMap &with = {});
     static void trackAppLaunched();

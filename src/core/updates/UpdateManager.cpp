@@ -10,14 +10,14 @@
 #include "core/updates/AppcastUpdaterController.h"
 #include "core/updates/VersionOrder.h"
 #include "foundation/QtTimerFactory.h"
+#include "platform/InstallLayout.h"
 
 #include "BuildConfig.h"
 
-#include <QCoreApplication>
-#include <QFileInfo>
 #include <QNetworkAccessManager>
 #include <QNetworkReply>
 #include <QNetworkRequest>
+#include <QStringList>
 
 #include <chrono>
 
@@ -61,8 +61,6 @@ UpdateManager::Options UpdateManager::defaultOptions()
     options.timers = &timers;
     options.appcastURL = QUrl(QString::fromUtf8(BuildConfig::feedUrl));
     options.currentVersion = AppInfo::appVersion();
-    options.installPath = QFileInfo(QCoreApplication::applicationFilePath()).canonicalFilePath();
-    options.brewPrefixes = {QStringLiteral("/opt/homebrew"), QStringLiteral("/usr/local")};
     return options;
 }
 
@@ -76,27 +74,20 @@ UpdateManager::~UpdateManager() = default;
 bool UpdateManager::isBrewInstall()
 {
     if (!m_isBrewInstall)
-        m_isBrewInstall = detectBrewInstall(m_options.installPath, m_options.brewPrefixes);
+        m_isBrewInstall = detectBrewInstall(m_options.install);
     return *m_isBrewInstall;
 }
 
-bool UpdateManager::detectBrewInstall(const QString &installPath, const QStringList &brewPrefixes)
+bool UpdateManager::detectBrewInstall(const InstallLayout *install)
 {
-    if (installPath.contains(QLatin1StringView("Caskroom"))) {
-        Console::line(QStringLiteral("🍺 Homebrew install detected via symlink resolution"));
-        return true;
+    const std::optional<QString> evidence =
+        install ? install->homebrewEvidence(brewCaskTokens) : std::nullopt;
+    if (!evidence) {
+        Console::line(QStringLiteral("📦 No Homebrew install detected"));
+        return false;
     }
-    for (const QString &prefix : brewPrefixes) {
-        for (const QString &token : brewCaskTokens) {
-            const QString path = prefix + u"/Caskroom/" + token;
-            if (QFileInfo::exists(path)) {
-                Console::line(u"🍺 Homebrew install detected via Caskroom directory: " + path);
-                return true;
-            }
-        }
-    }
-    Console::line(QStringLiteral("📦 No Homebrew install detected"));
-    return false;
+    Console::line(u"🍺 Homebrew install detected via " + *evidence);
+    return true;
 }
 
 UpdaterController *UpdateManager::sparkleUpdaterController()

@@ -6,7 +6,6 @@
 #include <QObject>
 #include <QPointer>
 #include <QString>
-#include <QStringList>
 #include <QUrl>
 
 #include <functional>
@@ -14,6 +13,7 @@
 #include <optional>
 
 class Clock;
+class InstallLayout;
 class LanguageManager;
 class ModalPrompter;
 class QNetworkAccessManager;
@@ -39,10 +39,8 @@ public:
         TimerFactory *timers = nullptr;
         QUrl appcastURL;
         QString currentVersion;
-        // Location of this copy with every symbolic link resolved.
-        QString installPath;
-        // Homebrew prefixes, searched in order for a Caskroom folder of ours.
-        QStringList brewPrefixes;
+        // Where this copy is installed; none means not by Homebrew.
+        const InstallLayout *install = nullptr;
         // Makes the updater controller; empty means the program's own appcast updater, which
         // shows its findings through these (each may be absent: it then shows nothing).
         ControllerFactory makeController;
@@ -70,8 +68,8 @@ public:
     static constexpr int sparkleResetSeconds = 8;
 
     // The process-wide manager: the standard settings store, real clock and timers, the feed
-    // of the build configuration, the running copy's version and location. Made on first use;
-    // a test may put another in its place (kept by the caller).
+    // of the build configuration and the running copy's version. Made on first use unless
+    // the application (or a test) has put one in its place (kept by the caller).
     static UpdateManager &shared();
     static void setShared(UpdateManager *manager);
     static Options defaultOptions();
@@ -99,8 +97,8 @@ public:
     // cancelled: it gets no answer. Free of shared state.
     static std::optional<Answer> answerFor(const FetchResult &result,
                                            const QString &currentVersion);
-    // Writes which way, if any, shows that Homebrew installed this copy.
-    static bool detectBrewInstall(const QString &installPath, const QStringList &brewPrefixes);
+    // Writes which sign, if any, shows that Homebrew installed this copy.
+    static bool detectBrewInstall(const InstallLayout *install);
 
 private:
     std::unique_ptr<UpdaterController> makeAppcastUpdater();

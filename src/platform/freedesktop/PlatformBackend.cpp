@@ -1,7 +1,9 @@
 #include "platform/PlatformBackend.h"
 
 #include "platform/freedesktop/AutostartLoginItem.h"
+#include "platform/freedesktop/FreedesktopDeviceFacts.h"
 #include "platform/freedesktop/FreedesktopHandlerDatabase.h"
+#include "platform/freedesktop/FreedesktopInstallLayout.h"
 #include "platform/freedesktop/FreedesktopSystemEvents.h"
 #include "platform/freedesktop/LockFileSingleInstance.h"
 
@@ -25,4 +27,14 @@ std::unique_ptr<SystemEvents> PlatformBackend::createSystemEvents()
 std::unique_ptr<LoginItem> PlatformBackend::createLoginItem(const QString &appId)
 {
     return std::make_unique<AutostartLoginItem>(appId, QCoreApplication::applicationFilePath());
+}
+
+std::unique_ptr<DeviceFacts> PlatformBackend::createDeviceFacts()
+{
+    return std::make_unique<FreedesktopDeviceFacts>();
+}
+
+std::unique_ptr<InstallLayout> PlatformBackend::createInstallLayout()
+{
+    return std::make_unique<FreedesktopInstallLayout>();
 }

@@ -2,6 +2,7 @@
 #include "core/updates/UpdateManager.h"
 #include "core/updates/UpdateSheetPresenter.h"
 #include "core/updates/UpdaterController.h"
+#include "platform/freedesktop/FreedesktopInstallLayout.h"
 
 #include "ConsoleCapture.h"
 #include "FakeClock.h"
@@ -50,9 +51,7 @@ public:
         options.timers = &timers;
         options.appcastURL = feedUrl.isEmpty() ? QUrl(server.url()) : feedUrl;
         options.currentVersion = QStringLiteral("1.9.9");
-        options.installPath = QStringLiteral("/usr/bin/vandorel");
-        options.brewPrefixes = {prefixes.path() + u"/opt/homebrew",
-                                prefixes.path() + u"/usr/local"};
+        options.install = &install;
         options.sheet = &sheet;
         options.prompter = &prompter;
         options.language = &language;
@@ -91,6 +90,9 @@ public:
     FakeClock clock{QDateTime(QDate(2026, 3, 14), QTime(9, 0), Qt::UTC)};
     FeedServer server;
     QTemporaryDir prefixes;
+    FreedesktopInstallLayout install{
+        QStringLiteral("/usr/bin/vandorel"),
+        {prefixes.path() + u"/opt/homebrew", prefixes.path() + u"/usr/local"}};
     QStringList calls;
     QStringList answers;
     RecordingSheet sheet;
@@ -185,7 +187,8 @@ private Q_SLOTS:
         const QString local = rig.prefixes.path() + u"/usr/local";
         const auto detect = [&](const QString &installPath) {
             rig.console.take();
-            return UpdateManager::detectBrewInstall(installPath, {opt, local});
+            const FreedesktopInstallLayout layout(installPath, {opt, local});
+            return UpdateManager::detectBrewInstall(&layout);
         };
 
         // Another cask and a dangling link of ours do not count.
