@@ -1,6 +1,7 @@
 #include "aptabase/EventDispatcher.h"
 
 #include "aptabase/DebugPrint.h"
+#include "foundation/ReplyOutcome.h"
 
 #include <QJsonArray>
 #include <QJsonDocument>
@@ -125,16 +126,14 @@ void EventDispatcher::sendEvents(const QList<Event> &batch, std::function<void(b
 
 bool EventDispatcher::handleReply(QNetworkReply *reply, qsizetype batchSize)
 {
-    // The reply's error() also reports HTTP statuses of 400 and up; those are answers and are
-    // judged by their status. Only a reply without a status failed in transport.
-    const QVariant status = reply->attribute(QNetworkRequest::HttpStatusCodeAttribute);
-    if (!status.isValid()) {
-        if (reply->error() == QNetworkReply::NoError)
-            return true;
-        DebugPrint::write(failureLine(batchSize, reply->errorString()));
+    const ReplyOutcome outcome = ReplyOutcome::of(*reply);
+    if (outcome.failure) {
+        DebugPrint::write(failureLine(batchSize, *outcome.failure));
         return false;
     }
-    const int statusCode = status.toInt();
+    if (!outcome.status)
+        return true; // no failure and nothing to judge
+    const int statusCode = *outcome.status;
     if (statusCode < 300)
         return true;
     const QString reason =

@@ -4,6 +4,7 @@
 #include "core/i18n/LanguageManager.h"
 #include "core/support/SystemClock.h"
 #include "core/telemetry/AptabaseManager.h"
+#include "foundation/ReplyOutcome.h"
 
 #include "BuildConfig.h"
 
@@ -37,13 +38,6 @@ QString bodyText(const QByteArray &body)
     const QString text = decoder(body);
     return decoder.hasError() ? QStringLiteral("<empty>") : text;
 }
-
-// Errors below the content and protocol range come from the connection itself.
-bool isTransportError(QNetworkReply::NetworkError error)
-{
-    return error != QNetworkReply::NoError && error < QNetworkReply::ContentAccessDenied;
-}
-
 } // namespace
 
 const QStringList &FeedbackForm::moodEmojis()
@@ -171,15 +165,14 @@ FeedbackPayload FeedbackForm::makePayload() const
 void FeedbackForm::judge(QNetworkReply *reply, const FeedbackPayload &payload)
 {
     const auto notSending = qScopeGuard([this] { setSending(false); });
-    // Statuses of 400 and up also raise an error on the reply: they are answers, judged below.
-    if (isTransportError(reply->error()))
-        return fail(reply->errorString());
-    const QVariant status = reply->attribute(QNetworkRequest::HttpStatusCodeAttribute);
-    if (!status.isValid()) {
+    const ReplyOutcome outcome = ReplyOutcome::of(*reply);
+    if (outcome.failure)
+        return fail(*outcome.failure);
+    if (!outcome.status) {
         qCCritical(lcFeedback, "Feedback send failed: invalid HTTP response");
         return fail(domainErrorDescription(-1));
     }
-    const int code = status.toInt();
+    const int code = *outcome.status;
     if (code >= 200 && code <= 299)
         return succeed(code, payload);
     qCCritical(lcFeedback, "Feedback send failed: status=%d, body=%s", code,

@@ -10,6 +10,7 @@
 #include "core/updates/AppcastUpdaterController.h"
 #include "core/updates/VersionOrder.h"
 #include "foundation/QtTimerFactory.h"
+#include "foundation/ReplyOutcome.h"
 #include "platform/InstallLayout.h"
 
 #include "BuildConfig.h"
@@ -243,13 +244,11 @@ void UpdateManager::finishCheck(QNetworkReply *reply, bool oversized, const Comp
 {
     FetchResult result;
     result.oversized = oversized;
-    const QNetworkReply::NetworkError error = reply->error();
-    // HTTP statuses of 400 and up come as errors too, but they are answers with a body.
-    const bool httpAnswer = reply->attribute(QNetworkRequest::HttpStatusCodeAttribute).isValid();
-    if (!oversized && error == QNetworkReply::OperationCanceledError)
+    const ReplyOutcome outcome = ReplyOutcome::of(*reply);
+    if (!oversized && reply->error() == QNetworkReply::OperationCanceledError)
         result.cancelled = true;
-    else if (!oversized && error != QNetworkReply::NoError && !httpAnswer)
-        result.transportError = reply->errorString();
+    else if (!oversized && outcome.failure)
+        result.transportError = outcome.failure;
     else if (reply->isReadable())
         result.data = reply->readAll();
 
