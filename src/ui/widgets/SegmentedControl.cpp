@@ -71,7 +71,19 @@ SegmentedControl::SegmentedControl(int segmentCount, QWidget *parent)
         if (checked)
             Q_EMIT currentIndexChanged(index);
     });
-    setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
+    setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Fixed);
+}
+
+void SegmentedControl::setPreferredWidth(int width)
+{
+    m_preferredWidth = width;
+    updateGeometry();
+}
+
+QSize SegmentedControl::sizeHint() const
+{
+    const QSize natural = QWidget::sizeHint();
+    return QSize(std::max(natural.width(), m_preferredWidth), natural.height());
 }
 
 int SegmentedControl::count() const

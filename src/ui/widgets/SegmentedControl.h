@@ -13,6 +13,11 @@ class SegmentedControl : public QWidget {
 public:
     explicit SegmentedControl(int segmentCount, QWidget *parent = nullptr);
 
+    // The width the control takes where there is room; with less it shrinks to what its
+    // texts need.
+    void setPreferredWidth(int width);
+    QSize sizeHint() const override;
+
     int count() const;
     void setSegmentText(int index, const QString &text);
     QAbstractButton *segment(int index) const;
@@ -29,4 +34,5 @@ protected:
 
 private:
     QButtonGroup *m_group;
+    int m_preferredWidth = 0;
 };

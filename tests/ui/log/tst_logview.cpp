@@ -1,0 +1,299 @@
+#include "core/changelog/LogManager.h"
+#include "core/i18n/LanguageManager.h"
+#include "ui/Appearance.h"
+#include "ui/log/ChangeLogEntryRow.h"
+#include "ui/log/LogView.h"
+#include "ui/widgets/RelativeTimeLabel.h"
+#include "ui/widgets/SegmentedControl.h"
+#include "ui/widgets/SymbolLabel.h"
+
+#include "ConsoleCapture.h"
+#include "FakeClock.h"
+#include "FakeTimerFactory.h"
+#include "PageChecks.h"
+#include "ScriptedPrompter.h"
+#include "TempSettings.h"
+
+#include <QAbstractButton>
+#include <QAccessible>
+#include <QFileDialog>
+#include <QLabel>
+#include <QPushButton>
+#include <QScrollArea>
+#include <QScrollBar>
+#include <QTemporaryDir>
+#include <QTest>
+
+using namespace std::chrono_literals;
+
+namespace {
+
+// The room the settings window gives a page.
+constexpr QSize pageSize(549, 550);
+
+// A page the size the settings window gives it, over a log of its own.
+struct Rig {
+    ConsoleCapture console;
+    TempSettings settings;
+    FakeTimerFactory timers;
+    FakeClock clock{QDateTime(QDate(2026, 3, 14), QTime(10, 0))};
+    LanguageManager language{settings.store(), timers, {}};
+    LogManager log{settings.store(), clock};
+    ScriptedPrompter prompter;
+    std::unique_ptr<LogView> view;
+
+    // Records `count` changes, one a minute, alternating browser and mail from a browser one.
+    void record(int count, bool mailToo = true)
+    {
+        for (int i = 0; i < count; ++i) {
+            if (i % 2 == 0 || !mailToo)
+                log.logBrowserChange(QStringLiteral("Firefox"), u"Browser " + QString::number(i));
+            else
+                log.logEmailChange(QStringLiteral("Thunderbird"), u"Mail " + QString::number(i));
+            clock.advance(60);
+        }
+    }
+    LogView &show()
+    {
+        view = std::make_unique<LogView>(language, log, clock, timers, prompter);
+        view->resize(pageSize);
+        view->show();
+        static_cast<void>(QTest::qWaitForWindowExposed(view.get()));
+        return *view;
+    }
+    QStringList shownMessages() const
+    {
+        QStringList messages;
+        for (ChangeLogEntryRow *row : view->rows())
+            messages.append(row->messageLabel()->text());
+        return messages;
+    }
+    QString text(const char *key) const { return language.localizedString(QLatin1String(key)); }
+};
+
+QByteArray fileBytes(const QString &path)
+{
+    QFile file(path);
+    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray("<missing>");
+}
+
+// Accepts the export dialog of the page with `path`, or cancels it for an empty path.
+void answerExport(LogView &view, const QString &path)
+{
+    QFileDialog *dialog = view.exportDialog();
+    QVERIFY(dialog && dialog->isVisible());
+    QCOMPARE(dialog->acceptMode(), QFileDialog::AcceptSave);
+    if (path.isEmpty()) {
+        dialog->reject();
+        return;
+    }
+    dialog->selectFile(path);
+    static_cast<QDialog *>(dialog)->accept();
+}
+
+} // namespace
+
+class LogViewTest : public QObject {
+    Q_OBJECT
+private Q_SLOTS:
+    void initTestCase()
+    {
+        const QFontMetrics metrics(QApplication::font());
+        QVERIFY2(metrics.horizontalAdvance("iiii") < metrics.horizontalAdvance("WWWW"),
+                 "no real font: screenshots would show boxes");
+    }
+
+    void filtersTheCopyAndShowsTheEmptyState()
+    {
+        Rig rig;
+        rig.record(2, false);
+        LogView &view = rig.show();
+        QCOMPARE(rig.shownMessages(), (QStringList{"Browser changed from Firefox to Browser 1",
+                                                   "Browser changed from Firefox to Browser 0"}));
+        ChangeLogEntryRow *newest = view.rows().first();
+        QCOMPARE(newest->symbol()->symbol(), QStringLiteral("globe"));
+        QCOMPARE(newest->relativeTime()->text(), QStringLiteral("1 minute ago"));
+
+        // The filter reads no store: a record logged meanwhile shows only after Refresh.
+        rig.log.logEmailChange(QStringLiteral("Thunderbird"), QStringLiteral("Evolution"));
+        view.setFilterType(LogView::LogFilterType::email);
+        QVERIFY(view.emptyState() && view.rows().isEmpty());
+        QTest::mouseClick(view.refreshButton(), Qt::LeftButton);
+        QCOMPARE(rig.shownMessages(),
+                 QStringList{"Email client changed from Thunderbird to Evolution"});
+        QCOMPARE(view.rows().first()->symbol()->symbol(), QStringLiteral("envelope"));
+        QTest::mouseClick(view.filterControl()->segment(0), Qt::LeftButton);
+        QCOMPARE(view.rows().size(), 3);
+
+        // The relative time keeps itself current; the message stays as it was stored.
+        PageChecks::settle();
+        rig.clock.advance(3600);
+        QVERIFY(!rig.timers.active().isEmpty());
+        for (FakeTimer *timer : rig.timers.active())
+            timer->fire();
+        QCOMPARE(view.rows().last()->relativeTime()->text(), QStringLiteral("1 hour ago"));
+        rig.language.setCurrentLanguage(AppLanguage::german);
+        rig.timers.fire(50ms);
+        QCOMPARE(view.refreshButton()->text(), QStringLiteral("Aktualisieren"));
+        QCOMPARE(view.rows().first()->messageLabel()->text(),
+                 QStringLiteral("Email client changed from Thunderbird to Evolution"));
+
+        // An empty log, and showing the page again reads it again.
+        rig.log.clearAllLogs();
+        view.hide();
+        view.show();
+        QVERIFY(view.emptyState());
+        QVERIFY(view.emptyState()->isVisible());
+    }
+
+    void buildsLongListsAsTheyScroll()
+    {
+        Rig rig;
+        rig.record(120);
+        LogView &view = rig.show();
+        QCOMPARE(view.rows().size(), 50);
+        QScrollBar *bar = view.findChild<QScrollArea *>()->verticalScrollBar();
+        PageChecks::settle();
+        bar->setValue(bar->maximum());
+        QCOMPARE(view.rows().size(), 100);
+        PageChecks::settle();
+        bar->setValue(bar->maximum());
+        QCOMPARE(view.rows().size(), 120);
+        QCOMPARE(view.rows().last()->messageLabel()->text(),
+                 QStringLiteral("Browser changed from Firefox to Browser 0"));
+    }
+
+    void exportsWhatTheFilterShows()
+    {
+        Rig rig;
+        QTemporaryDir folder;
+        LogView &view = rig.show();
+        // An empty log writes an empty file.
+        view.exportLogs();
+        QCOMPARE(view.exportDialog()->selectedFiles().first().section(u'/', -1),
+                 QStringLiteral("Vandorel-Log-3-14-2026.txt"));
+        QCOMPARE(view.exportDialog()->mimeTypeFilters(), QStringList{"text/plain"});
+        answerExport(view, folder.filePath(QStringLiteral("empty.txt")));
+        QCOMPARE(fileBytes(folder.filePath(QStringLiteral("empty.txt"))), QByteArray());
+
+        rig.record(3);
+        QTest::mouseClick(view.refreshButton(), Qt::LeftButton);
+        const QList<ChangeLogEntry> all = rig.log.getAllLogs();
+        QCOMPARE(LogView::exportText({all.first()}), all.first().description().toUtf8());
+
+        // The filter as it stands when the dialog is accepted; a cancel writes nothing.
+        QTest::mouseClick(view.exportButton(), Qt::LeftButton);
+        view.setFilterType(LogView::LogFilterType::browser);
+        answerExport(view, folder.filePath(QStringLiteral("browser.txt")));
+        QCOMPARE(fileBytes(folder.filePath(QStringLiteral("browser.txt"))),
+                 all[0].description().toUtf8() + "\n\n" + all[2].description().toUtf8());
+        view.setFilterType(LogView::LogFilterType::email);
+        view.exportLogs();
+        answerExport(view, folder.filePath(QStringLiteral("mail.txt")));
+        QCOMPARE(fileBytes(folder.filePath(QStringLiteral("mail.txt"))),
+                 all[1].description().toUtf8());
+        view.exportLogs();
+        answerExport(view, QString());
+        QCOMPARE(QDir(folder.path()).entryList(QDir::Files).size(), 3);
+
+        // A place that cannot be written is passed over in silence.
+        rig.console.take();
+        view.exportLogs();
+        answerExport(view, folder.filePath(QStringLiteral("missing/folder/log.txt")));
+        QVERIFY(rig.console.lines().isEmpty());
+        QVERIFY(!QFile::exists(folder.filePath(QStringLiteral("missing/folder/log.txt"))));
+    }
+
+    void clearsBothKindsOnlyWhenConfirmed()
+    {
+        Rig rig;
+        rig.record(3);
+        LogView &view = rig.show();
+        view.setFilterType(LogView::LogFilterType::browser);
+
+        rig.prompter.answerNext(1);
+        QTest::mouseClick(view.clearButton(), Qt::LeftButton);
+        ScriptedPrompter::settle();
+        const ModalPrompt &asked = rig.prompter.last();
+        QCOMPARE(asked.title, rig.text("log_clear_confirm_title"));
+        QCOMPARE(asked.text, rig.text("log_clear_confirm_message"));
+        QCOMPARE(asked.buttons, (QStringList{rig.text("log_clear_confirm_button"),
+                                             rig.text("log_clear_cancel_button")}));
+        QCOMPARE(asked.style, ModalPrompt::Style::warning);
+        QCOMPARE(rig.log.getAllLogs().size(), 3);
+        QCOMPARE(view.rows().size(), 2);
+
+        rig.prompter.answerNext(0);
+        view.clearLogs();
+        ScriptedPrompter::settle();
+        QVERIFY(rig.log.getAllLogs().isEmpty());
+        QVERIFY(view.emptyState());
+        QVERIFY(rig.console.contains(QStringLiteral("🗑️ All logs cleared")));
+    }
+
+    void controlsAreNamedAndNeverDisabled()
+    {
+        Rig rig;
+        LogView &view = rig.show();
+        QCOMPARE(view.filterControl()->accessibleName(), rig.text("log_filter_label"));
+        for (int i = 0; i < 3; ++i) {
+            QAccessibleInterface *segment =
+                QAccessible::queryAccessibleInterface(view.filterControl()->segment(i));
+            QCOMPARE(segment->role(), QAccessible::RadioButton);
+            QCOMPARE(segment->text(QAccessible::Name),
+                     rig.text(std::array{"log_filter_all", "log_filter_browser",
+                                         "log_filter_email"}[i]));
+        }
+        for (QPushButton *button :
+             {view.refreshButton(), view.exportButton(), view.clearButton()}) {
+            QVERIFY(button->isEnabled());
+            QCOMPARE(QAccessible::queryAccessibleInterface(button)->text(QAccessible::Name),
+                     button->text());
+        }
+    }
+
+    // Every language fits the page without a horizontal scroll bar; English and the longest
+    // one are saved in light and dark, with records and empty.
+    void fitsInEveryLanguage()
+    {
+        Rig rig;
+        rig.log.logBrowserChange(QStringLiteral("Firefox ESR"), QStringLiteral("Chromium"));
+        rig.clock.advance(7200);
+        rig.log.logEmailChange(QStringLiteral("Thunderbird"),
+                               QStringLiteral("Evolution Mail and Calendar (Flatpak, user "
+                                              "installation, development snapshot)"));
+        rig.clock.advance(300);
+        const QByteArray records = *rig.settings.store().dataValue(LogManager::logsKey);
+        LogView &view = rig.show();
+        const AppLanguage longest = PageChecks::longestLanguage(
+            {"log_filter_all", "log_filter_browser", "log_filter_email", "log_refresh",
+             "log_export", "log_clear", "log_empty_title", "log_empty_description"});
+        QScrollArea *list = view.findChild<QScrollArea *>();
+        for (const AppLanguage language : AppLanguage::allCases()) {
+            rig.language.setCurrentLanguage(language);
+            rig.timers.fire(50ms);
+            QVERIFY2(view.minimumSizeHint().width() <= pageSize.width(),
+                     qPrintable(QString::number(view.minimumSizeHint().width())));
+            QCOMPARE(view.size(), pageSize);
+            QVERIFY2(PageChecks::clippedTexts(view).isEmpty(),
+                     qPrintable(PageChecks::clippedTexts(view).join(u" | ")));
+            QVERIFY(list->widget()->minimumSizeHint().width() <= list->viewport()->width());
+            if (language != AppLanguage::english && language != longest)
+                continue;
+            for (const AppearanceMode mode : {AppearanceMode::light, AppearanceMode::dark}) {
+                Appearance::apply(mode);
+                const QString suffix = mode.rawValue() + u'_' + language.code();
+                QVERIFY(PageChecks::saveScreenshot(view, u"log_" + suffix));
+                rig.log.clearAllLogs();
+                view.refreshLogs();
+                QVERIFY(PageChecks::saveScreenshot(view, u"log_empty_" + suffix));
+                rig.settings.store().setData(LogManager::logsKey, records);
+                view.refreshLogs();
+            }
+            Appearance::apply(AppearanceMode::system);
+        }
+    }
+};
+
+QTEST_MAIN(LogViewTest)
+#include "tst_logview.moc"
