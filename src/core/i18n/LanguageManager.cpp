@@ -81,11 +81,11 @@ void LanguageManager::setShared(LanguageManager *manager)
 
 LanguageManager::LanguageManager(SettingsStore &settings, TimerFactory &timers,
                                  const QStringList &preferredLanguages, QObject *parent)
-    : QObject(parent), m_settings(settings), m_timers(timers)
+    : QObject(parent), m_settings(settings), m_timers(timers),
+      m_preferredLanguages(preferredLanguages)
 {
-    const QString systemCode =
-        preferredLanguages.isEmpty() ? QStringLiteral("en") : preferredLanguages.first().left(2);
-    const QString startCode = m_settings.stringValue(languageKey).value_or(systemCode);
+    const QString startCode =
+        m_settings.stringValue(languageKey).value_or(systemLanguageCode(preferredLanguages));
     m_currentLanguage = AppLanguage::fromRawValue(startCode).value_or(AppLanguage::english);
     // The table of the start code itself: for a code outside the ten that is the main
     // table, while the selection reads English.
@@ -99,6 +99,11 @@ QStringList LanguageManager::systemPreferredLanguages()
     if (system.language() == QLocale::C)
         return {};
     return system.uiLanguages();
+}
+
+QString LanguageManager::systemLanguageCode(const QStringList &preferredLanguages)
+{
+    return preferredLanguages.isEmpty() ? QStringLiteral("en") : preferredLanguages.first().left(2);
 }
 
 const QTranslator *LanguageManager::mainBundle()

@@ -34,6 +34,11 @@ public:
 
     // The system's preferred interface languages; a C or POSIX locale has none.
     static QStringList systemPreferredLanguages();
+    // The first language's first two letters ("de-AT" gives "de"), or "en" for an empty list.
+    static QString systemLanguageCode(const QStringList &preferredLanguages);
+
+    // The system's list the manager was made with.
+    const QStringList &preferredLanguages() const { return m_preferredLanguages; }
 
     // The table of a language code, or the main (English) table if there is none for it.
     // Never null. Writes a console line saying which.
@@ -61,6 +66,7 @@ private:
     TimerFactory &m_timers;
     AppLanguage m_currentLanguage;
     const QTranslator *m_bundle = nullptr;
+    QStringList m_preferredLanguages;
 };
 
 // Forwarding forms of LanguageManager::localizedString for code that is handed a manager.

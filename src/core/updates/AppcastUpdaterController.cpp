@@ -19,11 +19,15 @@ void AppcastUpdaterController::presentNoUpdate()
 {
     if (!m_services.prompter || !m_services.language)
         return;
-    const LanguageManager &language = *m_services.language;
+    m_services.prompter->present(noUpdatePrompt(*m_services.language), {});
+}
+
+ModalPrompt AppcastUpdaterController::noUpdatePrompt(const TextLookup &texts)
+{
     ModalPrompt prompt;
-    prompt.title = language.localizedString(QStringLiteral("update_no_updates_title"));
-    prompt.text = language.localizedString(QStringLiteral("update_no_updates_message"));
-    prompt.buttons = {language.localizedString(QStringLiteral("general_ok"))};
+    prompt.title = texts.localizedString(QStringLiteral("update_no_updates_title"));
+    prompt.text = texts.localizedString(QStringLiteral("update_no_updates_message"));
+    prompt.buttons = {texts.localizedString(QStringLiteral("general_ok"))};
     prompt.symbolName = QStringLiteral("checkmark.circle.fill");
-    m_services.prompter->present(prompt, {});
+    return prompt;
 }

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "core/updates/UpdaterController.h"
+#include "platform/ModalPrompt.h"
 
 #include <QString>
 
@@ -9,6 +10,7 @@
 
 class LanguageManager;
 class ModalPrompter;
+class TextLookup;
 class UpdateSheetPresenter;
 
 // The updater of a platform without a native one, on an install that Homebrew does not
@@ -33,6 +35,9 @@ public:
     void checkForUpdates() override;
 
     bool isStarted() const { return m_started; }
+
+    // The prompt that tells that this copy is up to date.
+    static ModalPrompt noUpdatePrompt(const TextLookup &texts);
 
 private:
     void presentNoUpdate();

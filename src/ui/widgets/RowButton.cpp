@@ -108,7 +108,11 @@ void RowButton::leaveEvent(QEvent *event)
 
 void RowButton::applyColours()
 {
-    QColor colour = m_foreground.isValid() ? m_foreground : palette().color(QPalette::Link);
+    // A colour of its own reads too pale on a light background unless deepened a little.
+    const bool light = palette().color(QPalette::Window).lightness() >= 128;
+    QColor colour = !m_foreground.isValid() ? palette().color(QPalette::Link)
+                    : light                 ? m_foreground.darker(125)
+                                            : m_foreground;
     if (!isEnabled())
         colour = palette().color(QPalette::Disabled, QPalette::WindowText);
     m_symbol->setColour(colour);

@@ -1,0 +1,566 @@
+#include "core/guard/BrowserManager.h"
+#include "core/guard/EmailClientManager.h"
+#include "core/i18n/LanguageManager.h"
+#include "core/support/AppInfo.h"
+#include "core/updates/UpdateCheckInterval.h"
+#include "core/updates/UpdateManager.h"
+#include "core/updates/UpdateScheduler.h"
+#include "core/updates/UpdateSheetPresenter.h"
+#include "core/updates/UpdaterController.h"
+#include "platform/freedesktop/AutostartLoginItem.h"
+#include "ui/Appearance.h"
+#include "ui/general/BuyMeCoffeeButton.h"
+#include "ui/general/GeneralSettingsView.h"
+#include "ui/widgets/BusySpinner.h"
+#include "ui/widgets/RowButton.h"
+#include "ui/widgets/SegmentedControl.h"
+#include "ui/widgets/ToggleSwitch.h"
+
+#include "FeedServer.h"
+#include "GuardWorld.h"
+#include "PageChecks.h"
+#include "XdgTree.h"
+
+#include <QAccessible>
+#include <QApplication>
+#include <QComboBox>
+#include <QDesktopServices>
+#include <QDir>
+#include <QScrollArea>
+#include <QStyle>
+#include <QTemporaryDir>
+#include <QTest>
+
+using namespace std::chrono_literals;
+
+namespace {
+
+constexpr QSize pageSize(549, 550);
+
+QByteArray feed(const QByteArray &version)
+{
+    return "<?xml version=\"1.0\"?><rss xmlns:sparkle=\"urn:x\"><channel><item>"
+           "<enclosure url=\"http://127.0.0.1/v.tar\" sparkle:version=\""
+           + version + "\"/></item></channel></rss>\n";
+}
+
+struct RecordingController final : UpdaterController {
+    explicit RecordingController(QStringList &calls) : calls(calls) {}
+    void startUpdater() override { calls.append(QStringLiteral("startUpdater")); }
+    void checkForUpdates() override { calls.append(QStringLiteral("checkForUpdates")); }
+    QStringList &calls;
+};
+
+struct RecordingSheet final : UpdateSheetPresenter {
+    void presentUpdateAvailable(const QString &version, bool isBrewInstall) override
+    {
+        shown << version + (isBrewInstall ? u" brew" : u"");
+    }
+    QStringList shown;
+};
+
+// Catches the URLs the page hands to the system.
+class UrlCatcher : public QObject {
+    Q_OBJECT
+public:
+    UrlCatcher() { QDesktopServices::setUrlHandler(QStringLiteral("http"), this, "open"); }
+    ~UrlCatcher() override { QDesktopServices::unsetUrlHandler(QStringLiteral("http")); }
+    QList<QUrl> opened;
+public Q_SLOTS:
+    void open(const QUrl &url) { opened.append(url); }
+};
+
+// The page over both guards, a temporary XDG tree for the autostart entry, a loopback feed,
+// and a Homebrew install when asked for.
+struct Rig : GuardWorld {
+    ConsoleCapture console;
+    XdgTree tree;
+    QTemporaryDir prefixes;
+    FeedServer server;
+    QStringList updaterCalls;
+    RecordingSheet sheet;
+    std::unique_ptr<LanguageManager> language;
+    std::unique_ptr<UpdateManager> updates;
+    std::unique_ptr<BrowserManager> browser;
+    std::unique_ptr<EmailClientManager> email;
+    AutostartLoginItem loginItem{QStringLiteral("io.kestrane.vandorel"),
+                                 QStringLiteral("/usr/bin/vandorel")};
+    std::unique_ptr<GeneralSettingsView> view;
+
+    explicit Rig(const QStringList &preferredLanguages = {}, bool brew = false)
+    {
+        language = std::make_unique<LanguageManager>(settings.store(), timers, preferredLanguages);
+        if (brew)
+            QDir().mkpath(prefixes.path() + u"/usr/local/Caskroom/vandorel");
+        UpdateManager::Options options;
+        options.settings = &settings.store();
+        options.clock = &clock;
+        options.timers = &timers;
+        options.appcastURL = QUrl(server.url());
+        options.currentVersion = QStringLiteral("1.9.9");
+        options.installPath = QStringLiteral("/usr/bin/vandorel");
+        options.brewPrefixes = {prefixes.path() + u"/usr/local"};
+        options.makeController = [this] {
+            return std::make_unique<RecordingController>(updaterCalls);
+        };
+        updates = std::make_unique<UpdateManager>(options);
+        browser = std::make_unique<BrowserManager>(environment());
+        email = std::make_unique<EmailClientManager>(environment());
+    }
+
+    GeneralSettingsView::Services services()
+    {
+        GeneralSettingsView::Services services;
+        services.language = language.get();
+        services.settings = &settings.store();
+        services.timers = &timers;
+        services.prompter = &alerts;
+        services.log = &log;
+        services.updates = updates.get();
+        services.updateSheet = &sheet;
+        services.browserManager = browser.get();
+        services.emailClientManager = email.get();
+        services.telemetry = &telemetry;
+        services.loginItem = &loginItem;
+        return services;
+    }
+    GeneralSettingsView &show()
+    {
+        view = std::make_unique<GeneralSettingsView>(services());
+        view->resize(pageSize);
+        view->show();
+        static_cast<void>(QTest::qWaitForWindowExposed(view.get()));
+        return *view;
+    }
+    void switchLanguage(AppLanguage to)
+    {
+        language->setCurrentLanguage(to);
+        timers.fire(50ms);
+    }
+    QString text(const char *key) const { return language->localizedString(QLatin1String(key)); }
+    // The settings the page reported, as "setting=value".
+    QStringList reportedSettings()
+    {
+        QStringList reported;
+        for (const QString &call : telemetry.take()) {
+            if (call.startsWith(u"trackSettingsChanged("))
+                reported << call.mid(21).chopped(1).replace(u", "_qs, u"="_qs);
+        }
+        return reported;
+    }
+};
+
+void click(QWidget *widget)
+{
+    QTest::mouseClick(widget, Qt::LeftButton, {}, widget->rect().center());
+}
+
+// The user picks entry `index` of a closed combo box.
+void choose(QComboBox *box, int index)
+{
+    box->setCurrentIndex(index);
+    Q_EMIT box->activated(index);
+}
+
+bool appliedDark()
+{
+    return QApplication::style()->name() == QLatin1String("fusion")
+           && QApplication::palette().color(QPalette::Window)
+                  == Appearance::darkPalette().color(QPalette::Window);
+}
+
+bool appliedLight()
+{
+    return QApplication::style()->name() == QLatin1String("fusion")
+           && QApplication::palette().color(QPalette::Window)
+                  == Appearance::lightPalette().color(QPalette::Window);
+}
+
+} // namespace
+
+class GeneralSettingsViewTest : public QObject {
+    Q_OBJECT
+private Q_SLOTS:
+    void initTestCase()
+    {
+        const QFontMetrics metrics(QApplication::font());
+        QVERIFY2(metrics.horizontalAdvance("iiii") < metrics.horizontalAdvance("WWWW"),
+                 "no real font: screenshots would show boxes");
+    }
+    void cleanup() { Appearance::apply(AppearanceMode::system); }
+
+    // Everything goes back to its default, setting by setting, while the targets, counters,
+    // log and update reminder stay.
+    void resetsSettingsAfterConfirmation()
+    {
+        Rig rig({QStringLiteral("de-AT")});
+        SettingsStore &store = rig.settings.store();
+        // The targets are the defaults already, so no check finds a change to count.
+        rig.browser->setTargetDefaultBrowser(
+            Browser(QStringLiteral("Firefox"), QStringLiteral("firefox-esr")));
+        rig.email->setTargetDefaultEmailClient(
+            EmailClient(QStringLiteral("Thunderbird"), QStringLiteral("thunderbird")));
+        for (HandlerGuard *guard : {static_cast<HandlerGuard *>(rig.browser.get()),
+                                    static_cast<HandlerGuard *>(rig.email.get())}) {
+            guard->setMonitoringEnabled(false);
+            guard->setCheckInterval(CheckInterval::daily);
+            guard->setSnoozeDuration(SnoozeDuration::today);
+            guard->setCheckOnWake(false);
+            guard->setCheckOnUnlock(false);
+            guard->setCheckOnLogin(false);
+            guard->setChangeCount(7);
+            guard->snoozeMonitoring();
+        }
+        rig.log.logBrowserChange(QStringLiteral("Firefox"), QStringLiteral("Chromium"));
+        store.setDouble(UpdateManager::updateSnoozeUntilKey, 1e10);
+        store.setString(UpdateManager::updateSnoozeVersionKey, QStringLiteral("2.0"));
+        store.setBool(GeneralSettingsView::showColoredMenuBarIconKey, true);
+        store.setString(GeneralSettingsView::appearanceModeKey, QStringLiteral("dark"));
+        store.setBool(UpdateScheduler::checkForUpdatesAtStartupKey, false);
+        store.setString(UpdateScheduler::updateCheckIntervalKey, QStringLiteral("weekly"));
+        rig.switchLanguage(AppLanguage::french);
+        GeneralSettingsView &view = rig.show();
+        rig.telemetry.take();
+
+        // Cancelled: nothing changes.
+        rig.alerts.answerNext(1);
+        click(view.resetButton(GeneralSettingsView::Reset::settings));
+        GuardWorld::settle();
+        const ModalPrompt &asked = rig.alerts.last();
+        QCOMPARE(asked.title, rig.text("general_reset_settings_confirm_title"));
+        QCOMPARE(asked.text, rig.text("general_reset_settings_confirm_message"));
+        QCOMPARE(asked.buttons, (QStringList{rig.text("general_reset_settings_confirm_button"),
+                                             rig.text("general_cancel")}));
+        QVERIFY(!rig.browser->monitoringEnabled());
+        QVERIFY(rig.reportedSettings().isEmpty());
+
+        rig.alerts.answerNext(0);
+        click(view.resetButton(GeneralSettingsView::Reset::settings));
+        GuardWorld::settle();
+        for (HandlerGuard *guard : {static_cast<HandlerGuard *>(rig.browser.get()),
+                                    static_cast<HandlerGuard *>(rig.email.get())}) {
+            QVERIFY(guard->monitoringEnabled());
+            QCOMPARE(guard->checkInterval(), CheckInterval::tenMinutes);
+            QCOMPARE(guard->snoozeDuration(), SnoozeDuration::oneHour);
+            QVERIFY(guard->checkOnWake() && guard->checkOnUnlock() && guard->checkOnLogin());
+            QVERIFY(!guard->isSnoozed());
+            QCOMPARE(guard->changeCount(), 7);
+        }
+        QCOMPARE(rig.browser->targetDefaultBrowser()->bundleIdentifier,
+                 QStringLiteral("firefox-esr"));
+        QCOMPARE(rig.email->targetDefaultEmailClient()->bundleIdentifier,
+                 QStringLiteral("thunderbird"));
+        QCOMPARE(rig.log.getAllLogs().size(), 1);
+        QCOMPARE(store.stringValue(UpdateManager::updateSnoozeVersionKey), QStringLiteral("2.0"));
+        QVERIFY(!store.boolValue(GeneralSettingsView::showColoredMenuBarIconKey));
+        QCOMPARE(store.stringValue(GeneralSettingsView::appearanceModeKey),
+                 QStringLiteral("system"));
+        QVERIFY(store.boolValue(UpdateScheduler::checkForUpdatesAtStartupKey));
+        QCOMPARE(store.stringValue(UpdateScheduler::updateCheckIntervalKey),
+                 QStringLiteral("daily"));
+        QVERIFY(rig.loginItem.isEnabled());
+        QCOMPARE(rig.language->currentLanguage(), AppLanguage::german);
+        QVERIFY(rig.console.contains(QStringLiteral("✅ All settings reset to default")));
+
+        // Each changed setting reports itself besides the reset.
+        const QStringList reported = rig.reportedSettings();
+        for (const char *expected :
+             {"browser_check_interval=10min", "email_check_on_login=true",
+              "colored_menu_bar_icon=false", "launch_at_login=true", "appearance=system",
+              "check_updates_at_startup=true", "update_check_interval=daily", "language=de",
+              "reset_all_settings=true"})
+            QVERIFY2(reported.contains(QLatin1String(expected)), expected);
+        QCOMPARE(reported.last(), QStringLiteral("reset_all_settings=true"));
+        QCOMPARE(view.appearancePicker()->currentIndex(), int(AppearanceMode::system));
+        QCOMPARE(view.updateIntervalPicker()->currentText(), rig.text("update_interval_daily"));
+    }
+
+    void resetTakesTheLanguageOfTheSystem_data()
+    {
+        QTest::addColumn<QStringList>("preferred");
+        QTest::addColumn<int>("language");
+        QTest::newRow("de-AT") << QStringList{"de-AT", "en-US"} << int(AppLanguage::german);
+        QTest::newRow("pt-BR") << QStringList{"pt-BR"} << int(AppLanguage::portuguese);
+        QTest::newRow("sv") << QStringList{"sv"} << int(AppLanguage::english);
+        QTest::newRow("none") << QStringList{} << int(AppLanguage::english);
+    }
+    void resetTakesTheLanguageOfTheSystem()
+    {
+        QFETCH(QStringList, preferred);
+        QFETCH(int, language);
+        Rig rig(preferred);
+        rig.switchLanguage(AppLanguage::japanese);
+        rig.show().resetAllSettings();
+        QCOMPARE(int(AppLanguage::Value(rig.language->currentLanguage())), language);
+    }
+
+    void resetsCountersLogsAndTheReminder()
+    {
+        Rig rig;
+        SettingsStore &store = rig.settings.store();
+        rig.browser->setBrowserChangeCount(3);
+        rig.email->setChangeCount(4);
+        rig.log.logEmailChange(QStringLiteral("Thunderbird"), QStringLiteral("Evolution"));
+        store.setDouble(UpdateManager::updateSnoozeUntilKey, 1e10);
+        store.setString(UpdateManager::updateSnoozeVersionKey, QStringLiteral("2.0"));
+        GeneralSettingsView &view = rig.show();
+        rig.telemetry.take();
+
+        rig.alerts.answerNext(1);
+        rig.alerts.answerNext(1);
+        click(view.resetButton(GeneralSettingsView::Reset::counters));
+        click(view.resetButton(GeneralSettingsView::Reset::logs));
+        GuardWorld::settle();
+        QCOMPARE(rig.alerts.shown().size(), 2);
+        QCOMPARE(rig.alerts.shown().at(1).title, rig.text("general_delete_logs_confirm_title"));
+        QCOMPARE(rig.browser->changeCount() + rig.email->changeCount(), 7);
+        QCOMPARE(rig.log.getAllLogs().size(), 1);
+
+        rig.alerts.answerNext(0);
+        rig.alerts.answerNext(0);
+        click(view.resetButton(GeneralSettingsView::Reset::counters));
+        click(view.resetButton(GeneralSettingsView::Reset::logs));
+        GuardWorld::settle();
+        QCOMPARE(rig.browser->changeCount() + rig.email->changeCount(), 0);
+        QVERIFY(rig.log.getAllLogs().isEmpty());
+        QVERIFY(rig.console.contains(QStringLiteral("✅ All counters reset")));
+        QVERIFY(rig.console.contains(QStringLiteral("✅ All logs deleted")));
+        QCOMPARE(store.stringValue(UpdateManager::updateSnoozeVersionKey), QStringLiteral("2.0"));
+
+        // The reminder snooze goes at once, without a question.
+        click(view.resetButton(GeneralSettingsView::Reset::updateReminderSnooze));
+        QVERIFY(!store.contains(UpdateManager::updateSnoozeVersionKey));
+        QCOMPARE(rig.alerts.shown().size(), 4);
+        QCOMPARE(rig.reportedSettings(), (QStringList{"reset_counters=true", "delete_logs=true",
+                                                      "reset_update_reminder_snooze=true"}));
+    }
+
+    // The stored look is applied by this page alone, when it is shown and when it is picked,
+    // always at the next turn of the event loop.
+    void appliesTheAppearanceFromThisPageAtTheNextTurn()
+    {
+        Rig rig;
+        rig.settings.store().setString(GeneralSettingsView::appearanceModeKey,
+                                       QStringLiteral("dark"));
+        auto hidden = std::make_unique<GeneralSettingsView>(rig.services());
+        PageChecks::settle();
+        QVERIFY(!appliedDark());
+        hidden.reset();
+        GeneralSettingsView &view = rig.show();
+        QTRY_VERIFY(appliedDark());
+        QVERIFY(rig.telemetry.take().contains(u"trackScreenView(settings_general)"_qs));
+
+        click(view.appearancePicker()->segment(int(AppearanceMode::light)));
+        QVERIFY(appliedDark());
+        QCoreApplication::sendPostedEvents();
+        QVERIFY(appliedLight());
+        QCOMPARE(rig.settings.store().stringValue(GeneralSettingsView::appearanceModeKey),
+                 QStringLiteral("light"));
+        QCOMPARE(rig.reportedSettings(), QStringList{"appearance=light"});
+
+        // An unknown stored look shows as system and is not applied.
+        rig.settings.store().setString(GeneralSettingsView::appearanceModeKey,
+                                       QStringLiteral("sepia"));
+        view.hide();
+        view.show();
+        PageChecks::settle();
+        QVERIFY(appliedLight());
+    }
+
+    void launchesAtLoginThroughTheAutostartEntry()
+    {
+        Rig rig;
+        GeneralSettingsView &view = rig.show();
+        ToggleSwitch *toggle = view.launchAtLoginSwitch();
+        QVERIFY(!toggle->isChecked());
+        rig.telemetry.take();
+        click(toggle);
+        QVERIFY(rig.loginItem.isEnabled());
+        QCOMPARE(rig.tree.read(QStringLiteral("config/autostart/io.kestrane.vandorel.desktop")),
+                 rig.loginItem.entryContent());
+        click(toggle);
+        QVERIFY(!QFile::exists(rig.loginItem.entryPath()));
+        QCOMPARE(rig.reportedSettings(),
+                 (QStringList{"launch_at_login=true", "launch_at_login=false"}));
+
+        // Reading the state when the page shows registers an enabled entry again.
+        rig.tree.write(QStringLiteral("config/autostart/io.kestrane.vandorel.desktop"),
+                       "[Desktop Entry]\nType=Application\nName=Old\nExec=/old/vandorel\n");
+        view.hide();
+        view.show();
+        QVERIFY(toggle->isChecked());
+        QCOMPARE(rig.tree.read(QStringLiteral("config/autostart/io.kestrane.vandorel.desktop")),
+                 rig.loginItem.entryContent());
+        QCOMPARE(rig.reportedSettings(), QStringList{"launch_at_login=true"});
+
+        // A read-only folder: a line, the switch stays, the report goes out all the same.
+        const QString folder = rig.tree.path(QStringLiteral("config/autostart"));
+        const auto readOnly = QFileDevice::ReadOwner | QFileDevice::ExeOwner;
+        const auto writable = readOnly | QFileDevice::WriteOwner;
+        QVERIFY(QFile::setPermissions(folder, readOnly));
+        click(toggle);
+        QVERIFY(!toggle->isChecked());
+        QVERIFY(rig.console.contains(u"Failed to disable launch at login: " + folder
+                                     + u": Permission denied"));
+        QVERIFY(rig.loginItem.isEnabled());
+        QVERIFY(QFile::setPermissions(folder, writable));
+        QVERIFY(QFile::remove(rig.loginItem.entryPath()));
+        QVERIFY(QFile::setPermissions(folder, readOnly));
+        click(toggle);
+        QVERIFY(toggle->isChecked());
+        QVERIFY(rig.console.contains(u"Failed to enable launch at login: " + folder
+                                     + u": Permission denied"));
+        QCOMPARE(rig.reportedSettings(),
+                 (QStringList{"launch_at_login=false", "launch_at_login=true"}));
+        QVERIFY(QFile::setPermissions(folder, writable));
+    }
+
+    void holdsTheButtonTwoSecondsForTheOwnUpdater()
+    {
+        Rig rig;
+        GeneralSettingsView &view = rig.show();
+        click(view.checkForUpdatesButton());
+        QVERIFY(view.isCheckingForUpdates());
+        QVERIFY(!view.checkForUpdatesButton()->isEnabled());
+        QVERIFY(view.updateSpinner()->isVisible());
+        QTRY_COMPARE(rig.updaterCalls, (QStringList{"startUpdater", "checkForUpdates"}));
+        QCOMPARE(rig.timers.activeWithInterval(2s).size(), 1);
+        QCOMPARE(rig.timers.fire(2s), 1);
+        QVERIFY(!view.isCheckingForUpdates());
+        QVERIFY(view.checkForUpdatesButton()->isEnabled());
+        QVERIFY(!view.updateSpinner()->isVisible());
+    }
+
+    void showsTheSheetOrTheAlertOnHomebrew()
+    {
+        Rig rig({}, true);
+        GeneralSettingsView &view = rig.show();
+        rig.server.serve({200, feed("2.0")});
+        click(view.checkForUpdatesButton());
+        QVERIFY(!view.checkForUpdatesButton()->isEnabled());
+        QTRY_COMPARE(rig.sheet.shown, QStringList{"2.0 brew"});
+        QVERIFY(view.checkForUpdatesButton()->isEnabled());
+        QVERIFY(rig.timers.activeWithInterval(2s).isEmpty());
+
+        rig.server.serve({200, feed("1.0")});
+        click(view.checkForUpdatesButton());
+        QTRY_VERIFY(rig.alerts.isPresenting());
+        QCOMPARE(rig.alerts.last().title, rig.text("update_no_updates_title"));
+        QCOMPARE(rig.alerts.last().buttons, QStringList{rig.text("general_ok")});
+        rig.alerts.answer(0);
+        QCOMPARE(rig.sheet.shown.size(), 1);
+
+        // Leaving the page while a check runs: its answer shows nothing.
+        rig.server.hold();
+        click(view.checkForUpdatesButton());
+        QTRY_COMPARE(rig.server.requestLines.size(), 3);
+        rig.view.reset();
+        rig.server.release();
+        QTRY_VERIFY(rig.console.contains(QStringLiteral("✅ No update available")));
+        PageChecks::settle();
+        QCOMPARE(rig.alerts.shown().size(), 1);
+    }
+
+    // The page writes the two settings; the scheduler hears of them through the store.
+    void theSchedulerFollowsTheStore()
+    {
+        Rig rig;
+        UpdateScheduler scheduler(rig.settings.store(), rig.timers, [] {});
+        scheduler.configureUpdateScheduler();
+        QObject::connect(&rig.settings.store(), &SettingsStore::changed, &scheduler,
+                         &UpdateScheduler::userDefaultsDidChange);
+        GeneralSettingsView &view = rig.show();
+        rig.telemetry.take();
+        choose(view.updateIntervalPicker(), int(UpdateCheckInterval::weekly));
+        click(view.checkAtStartupSwitch());
+        QCOMPARE(*scheduler.lastSchedulerConfig(), (UpdateScheduler::Config{false, "weekly"}));
+        QCOMPARE(rig.reportedSettings(),
+                 (QStringList{"update_check_interval=weekly", "check_updates_at_startup=false"}));
+
+        choose(view.languagePicker(), int(AppLanguage::italian));
+        QCOMPARE(rig.language->currentLanguage(), AppLanguage::italian);
+        click(view.coloredIconSwitch());
+        QVERIFY(rig.settings.store().boolValue(GeneralSettingsView::showColoredMenuBarIconKey));
+        QCOMPARE(rig.reportedSettings(),
+                 (QStringList{"language=it", "colored_menu_bar_icon=true"}));
+    }
+
+    void namesEveryControlAndLinksTheDonation()
+    {
+        Rig rig;
+        UrlCatcher catcher;
+        GeneralSettingsView &view = rig.show();
+        const std::pair<QWidget *, const char *> named[] = {
+            {view.appearancePicker(), "general_appearance"},
+            {view.coloredIconSwitch(), "general_colored_icon"},
+            {view.launchAtLoginSwitch(), "general_launch_at_login"},
+            {view.checkAtStartupSwitch(), "general_check_at_startup"},
+            {view.checkForUpdatesButton(), "general_check_for_updates"},
+            {view.resetButton(GeneralSettingsView::Reset::logs), "general_delete_logs"},
+            {view.donationButton(), "general_buy_coffee"},
+        };
+        for (const auto &[widget, key] : named)
+            QCOMPARE(QAccessible::queryAccessibleInterface(widget)->text(QAccessible::Name),
+                     rig.text(key));
+        QCOMPARE(QAccessible::queryAccessibleInterface(view.coloredIconSwitch())->role(),
+                 QAccessible::CheckBox);
+        QCOMPARE(QAccessible::queryAccessibleInterface(view.appearancePicker()->segment(2))
+                     ->text(QAccessible::Name),
+                 rig.text("general_appearance_dark"));
+        QCOMPARE(view.languagePicker()->itemText(5), QStringLiteral("中文"));
+
+        BuyMeCoffeeButton *donation = view.donationButton();
+        QCOMPARE(donation->cursor().shape(), Qt::PointingHandCursor);
+        QEnterEvent enter(QPointF(5, 5), QPointF(5, 5), QPointF(5, 5));
+        QApplication::sendEvent(donation, &enter);
+        QVERIFY(donation->isHovered());
+        QCOMPARE(donation->targetScale(), BuyMeCoffeeButton::hoveredScale);
+        rig.telemetry.take();
+        click(donation);
+        QCOMPARE(catcher.opened, QList<QUrl>{AppInfo::donationURL()});
+        QCOMPARE(rig.telemetry.take(),
+                 QStringList{"trackEvent(support_link_clicked, source=buy_me_coffee_button)"});
+        QEvent leave(QEvent::Leave);
+        QApplication::sendEvent(donation, &leave);
+        QCOMPARE(donation->targetScale(), 1.0);
+    }
+
+    // Every language fits without a horizontal scroll bar; English and the longest one are
+    // saved whole, in light and dark.
+    void fitsInEveryLanguage()
+    {
+        Rig rig;
+        GeneralSettingsView &view = rig.show();
+        QScrollArea *scroll = view.findChild<QScrollArea *>();
+        QStringList keys;
+        for (const char *key :
+             {"general_description", "general_feature_1", "general_feature_2", "general_feature_3",
+              "general_feature_4", "general_feature_5", "general_appearance", "general_language",
+              "general_colored_icon", "general_launch_at_login", "general_check_for_updates",
+              "general_update_check_interval", "general_check_at_startup", "general_reset_settings",
+              "general_reset_counters", "general_reset_update_reminder_snooze",
+              "general_delete_logs", "general_support_description", "general_buy_coffee"})
+            keys << QLatin1String(key);
+        const AppLanguage longest = PageChecks::longestLanguage(keys);
+        for (const AppLanguage language : AppLanguage::allCases()) {
+            rig.switchLanguage(language);
+            PageChecks::settle();
+            QWidget *content = scroll->widget();
+            QVERIFY2(content->minimumSizeHint().width() <= scroll->viewport()->width(),
+                     qPrintable(language.code()));
+            QVERIFY2(PageChecks::clippedTexts(*content).isEmpty(),
+                     qPrintable(PageChecks::clippedTexts(*content).join(u" | ")));
+            if (language != AppLanguage::english && language != longest)
+                continue;
+            for (const AppearanceMode mode : {AppearanceMode::light, AppearanceMode::dark}) {
+                Appearance::apply(mode);
+                QVERIFY(PageChecks::saveScreenshot(*content, u"general_" + mode.rawValue() + u'_'
+                                                                 + language.code()));
+            }
+            Appearance::apply(AppearanceMode::system);
+        }
+    }
+};
+
+QTEST_MAIN(GeneralSettingsViewTest)
+#include "tst_generalsettingsview.moc"
