@@ -8,6 +8,7 @@
 #include "core/updates/UpdateSheetPresenter.h"
 #include "core/updates/UpdaterController.h"
 #include "platform/freedesktop/AutostartLoginItem.h"
+#include "platform/freedesktop/FreedesktopInstallLayout.h"
 #include "ui/Appearance.h"
 #include "ui/general/BuyMeCoffeeButton.h"
 #include "ui/general/GeneralSettingsView.h"
@@ -79,6 +80,8 @@ struct Rig : GuardWorld {
     FeedServer server;
     QStringList updaterCalls;
     RecordingSheet sheet;
+    FreedesktopInstallLayout install{QStringLiteral("/usr/bin/vandorel"),
+                                     {prefixes.path() + u"/usr/local"}};
     std::unique_ptr<LanguageManager> language;
     std::unique_ptr<UpdateManager> updates;
     std::unique_ptr<BrowserManager> browser;
@@ -98,8 +101,7 @@ struct Rig : GuardWorld {
         options.timers = &timers;
         options.appcastURL = QUrl(server.url());
         options.currentVersion = QStringLiteral("1.9.9");
-        options.installPath = QStringLiteral("/usr/bin/vandorel");
-        options.brewPrefixes = {prefixes.path() + u"/usr/local"};
+        options.install = &install;
         options.makeController = [this] {
             return std::make_unique<RecordingController>(updaterCalls);
         };
