@@ -1,6 +1,7 @@
 #include "app/VandorelApp.h"
 
 #include "app/AppDelegate.h"
+#include "app/AppScenes.h"
 #include "core/changelog/LogManager.h"
 #include "core/guard/BrowserManager.h"
 #include "core/guard/EmailClientManager.h"
@@ -60,6 +61,7 @@ VandorelApp::VandorelApp(const Options &options)
     m_delegate = new AppDelegate(this);
     m_browserManager = std::make_unique<BrowserManager>(m_environment);
     m_emailClientManager = std::make_unique<EmailClientManager>(m_environment);
+    showScenes();
 
     QTimer::singleShot(0, m_delegate, &AppDelegate::applicationDidFinishLaunching);
     connect(qApp, &QCoreApplication::aboutToQuit, m_delegate,
@@ -99,6 +101,24 @@ void VandorelApp::startUpdates()
     updates.language = m_language;
     // Process-wide from here on, as the shared manager is.
     UpdateManager::setShared(new UpdateManager(updates));
+}
+
+// The tray icon reads both guards, so they work whether or not a window ever opens.
+void VandorelApp::showScenes()
+{
+    ViewEnvironment views;
+    views.language = m_language;
+    views.settings = &SettingsStore::standard();
+    views.timers = m_timers.get();
+    views.clock = m_clock.get();
+    views.prompter = m_prompter.get();
+    views.telemetry = m_telemetry.get();
+    views.log = &LogManager::shared();
+    views.updates = &UpdateManager::shared();
+    views.browserManager = m_browserManager.get();
+    views.emailClientManager = m_emailClientManager.get();
+    m_scenes = std::make_unique<AppScenes>(views);
+    m_scenes->start();
 }
 
 void VandorelApp::ensureSingleInstance()

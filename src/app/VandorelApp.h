@@ -7,6 +7,7 @@
 #include <memory>
 
 class AppDelegate;
+class AppScenes;
 class BrowserManager;
 class Clock;
 class DeviceFacts;
@@ -38,11 +39,13 @@ public:
     // The process-wide language manager, made at start; windows and pages are handed it.
     LanguageManager &languageManager() { return *m_language; }
     Telemetry &telemetry() { return *m_telemetry; }
+    AppScenes &scenes() { return *m_scenes; }
 
 private:
     void ensureSingleInstance();
     void startAnalytics();
     void startUpdates();
+    void showScenes();
 
     std::unique_ptr<SingleInstance> m_singleInstance;
     std::unique_ptr<DeviceFacts> m_deviceFacts;
@@ -59,4 +62,5 @@ private:
     std::unique_ptr<BrowserManager> m_browserManager;
     std::unique_ptr<EmailClientManager> m_emailClientManager;
     AppDelegate *m_delegate = nullptr;
+    std::unique_ptr<AppScenes> m_scenes;
 };

@@ -1,6 +1,7 @@
 #include "ui/SymbolTable.h"
 
 #include <QFile>
+#include <QImage>
 #include <QPainter>
 #include <QSvgRenderer>
 
@@ -21,15 +22,23 @@ QIcon SymbolTable::icon(const QString &symbol)
 
 QPixmap SymbolTable::tinted(const QString &symbol, const QColor &color, int size)
 {
-    QPixmap pixmap(size, size);
-    pixmap.fill(Qt::transparent);
+    QImage shape(size, size, QImage::Format_ARGB32_Premultiplied);
+    shape.fill(Qt::transparent);
     QSvgRenderer renderer(resourcePath(symbol));
     if (!renderer.isValid())
-        return pixmap;
-    QPainter painter(&pixmap);
-    painter.setRenderHint(QPainter::Antialiasing);
-    renderer.render(&painter, QRectF(0, 0, size, size));
-    painter.setCompositionMode(QPainter::CompositionMode_SourceIn);
-    painter.fillRect(pixmap.rect(), color);
-    return pixmap;
+        return QPixmap::fromImage(shape);
+    {
+        QPainter painter(&shape);
+        painter.setRenderHint(QPainter::Antialiasing);
+        renderer.render(&painter, QRectF(0, 0, size, size));
+    }
+    // Fill, then keep the fill only where the shape is opaque. The shape goes in as one
+    // picture so that its transparent pixels clear the fill too.
+    QImage tinted(size, size, QImage::Format_ARGB32_Premultiplied);
+    tinted.fill(color);
+    QPainter painter(&tinted);
+    painter.setCompositionMode(QPainter::CompositionMode_DestinationIn);
+    painter.drawImage(0, 0, shape);
+    painter.end();
+    return QPixmap::fromImage(tinted);
 }

@@ -23,6 +23,7 @@ set(vandorel_symbol_map
   "doc.text.magnifyingglass=file-earmark-text"
   "envelope=envelope"
   "eye=eye"
+  "gear=gear"
   "gearshape=gear"
   "globe=globe"
   "info.circle=info-circle"

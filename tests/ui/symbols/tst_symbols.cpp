@@ -43,6 +43,7 @@ private Q_SLOTS:
                                  "doc.text.magnifyingglass",
                                  "envelope",
                                  "eye",
+                                 "gear",
                                  "exclamationmark.shield",
                                  "exclamationmark.shield.fill",
                                  "globe",

@@ -1,0 +1,85 @@
+#include "ui/panel/PanelPopup.h"
+
+#include <QCursor>
+#include <QGuiApplication>
+#include <QMouseEvent>
+#include <QScreen>
+#include <QVBoxLayout>
+
+namespace {
+
+// A click that closes the panel reaches the icon within this time, if at all.
+constexpr qint64 sameClickMs = 500;
+
+} // namespace
+
+PanelPopup::PanelPopup(QWidget *parent)
+    : QFrame(parent, Qt::Popup | Qt::FramelessWindowHint), m_layout(new QVBoxLayout(this))
+{
+    setObjectName(QStringLiteral("panel"));
+    setFrameStyle(QFrame::StyledPanel | QFrame::Plain);
+    m_layout->setContentsMargins(1, 1, 1, 1);
+    m_layout->setSizeConstraint(QLayout::SetFixedSize);
+}
+
+void PanelPopup::setRoot(QWidget *root)
+{
+    if (m_root) {
+        m_layout->removeWidget(m_root);
+        m_root->hide();
+        m_root->deleteLater();
+    }
+    m_root = root;
+    m_layout->addWidget(root);
+    if (isVisible())
+        root->show();
+}
+
+void PanelPopup::toggle(const QRect &iconGeometry)
+{
+    if (isVisible()) {
+        close();
+        return;
+    }
+    if (m_closedByIcon.isValid() && m_closedByIcon.elapsed() < sameClickMs) {
+        m_closedByIcon.invalidate();
+        return;
+    }
+    m_iconGeometry = iconGeometry;
+    m_layout->activate();
+    const QPoint pointer = QCursor::pos();
+    const QScreen *screen =
+        QGuiApplication::screenAt(iconGeometry.isEmpty() ? pointer : iconGeometry.center());
+    if (!screen)
+        screen = QGuiApplication::primaryScreen();
+    move(placement(size(), iconGeometry, pointer, screen->availableGeometry()));
+    show();
+}
+
+QPoint PanelPopup::placement(const QSize &size, const QRect &icon, const QPoint &pointer,
+                             const QRect &available)
+{
+    QPoint corner;
+    if (icon.isEmpty()) {
+        corner = pointer;
+        if (pointer.y() > available.center().y())
+            corner.ry() -= size.height();
+    } else {
+        corner.rx() = icon.center().x() - size.width() / 2;
+        corner.ry() = icon.center().y() > available.center().y() ? icon.top() - size.height()
+                                                                 : icon.bottom() + 1;
+    }
+    corner.rx() = qBound(available.left(), corner.x(), available.right() + 1 - size.width());
+    corner.ry() = qBound(available.top(), corner.y(), available.bottom() + 1 - size.height());
+    return corner;
+}
+
+void PanelPopup::mousePressEvent(QMouseEvent *event)
+{
+    const QPoint global = event->globalPosition().toPoint();
+    if (!rect().contains(event->position().toPoint()) && m_iconGeometry.contains(global)) {
+        setAttribute(Qt::WA_NoMouseReplay);
+        m_closedByIcon.start();
+    }
+    QFrame::mousePressEvent(event);
+}

@@ -1,0 +1,7 @@
+#include "ui/settings/SettingsTabNotifier.h"
+
+SettingsTabNotifier &SettingsTabNotifier::shared()
+{
+    static SettingsTabNotifier notifier;
+    return notifier;
+}

@@ -1,0 +1,117 @@
+#include "ui/settings/SettingsView.h"
+
+#include "core/feedback/FeedbackForm.h"
+#include "ui/WindowList.h"
+#include "ui/WindowRouter.h"
+#include "ui/WindowTitleUpdater.h"
+#include "ui/feedback/FeedbackView.h"
+#include "ui/settings/SettingsTabNotifier.h"
+#include "ui/settings/TabButton.h"
+
+#include <QFrame>
+#include <QHBoxLayout>
+#include <QShowEvent>
+#include <QVBoxLayout>
+
+SettingsView::SettingsView(const ViewEnvironment &environment, QWidget *parent)
+    : QWidget(parent), m_env(environment)
+{
+    setFixedSize(viewWidth, viewHeight);
+    m_layout = new QHBoxLayout(this);
+    m_layout->setContentsMargins(0, 0, 0, 0);
+    m_layout->setSpacing(0);
+    m_layout->addWidget(makeTabColumn());
+    auto *divider = new QFrame;
+    divider->setFrameShape(QFrame::VLine);
+    divider->setFrameShadow(QFrame::Plain);
+    divider->setForegroundRole(QPalette::Mid);
+    divider->setFixedWidth(1);
+    m_layout->addWidget(divider);
+    showPage();
+
+    new WindowTitleUpdater(this, QStringLiteral("window_settings_title"), *m_env.language,
+                           *m_env.timers);
+    connect(&SettingsTabNotifier::shared(), &SettingsTabNotifier::SwitchSettingsTab, this,
+            [this](SettingsTab tab) { setSelectedTab(tab.rawValue()); });
+}
+
+void SettingsView::showEvent(QShowEvent *event)
+{
+    QWidget::showEvent(event);
+    if (event->spontaneous())
+        return;
+    if (qEnvironmentVariableIsSet(WindowRouter::openTabVariable))
+        setSelectedTab(qEnvironmentVariable(WindowRouter::openTabVariable));
+    QMetaObject::invokeMethod(
+        this,
+        [] {
+            if (QWidget *window = WindowList::firstSettingsWindow())
+                WindowList::bringForward(window);
+        },
+        Qt::QueuedConnection);
+}
+
+QWidget *SettingsView::makePage(SettingsTab tab, const ViewEnvironment &environment)
+{
+    switch (tab) {
+    case SettingsTab::general:
+        return new QWidget;
+    case SettingsTab::browser:
+        return new QWidget;
+    case SettingsTab::email:
+        return new QWidget;
+    case SettingsTab::log:
+        return new QWidget;
+    case SettingsTab::feedback:
+        return new FeedbackView(FeedbackForm::defaultOptions(), *environment.language,
+                                *environment.prompter);
+    }
+    return new QWidget;
+}
+
+QWidget *SettingsView::makeTabColumn()
+{
+    auto *column = new QWidget;
+    column->setFixedWidth(tabColumnWidth);
+    column->setBackgroundRole(QPalette::Base);
+    column->setAutoFillBackground(true);
+    auto *layout = new QVBoxLayout(column);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->setSpacing(0);
+    for (SettingsTab tab : SettingsTab::allCases()) {
+        auto *button = new TabButton(tab, *m_env.language);
+        connect(button, &TabButton::clicked, this, [this, tab] { setSelectedTab(tab.rawValue()); });
+        m_tabButtons.append(button);
+        layout->addWidget(button);
+    }
+    layout->addStretch();
+    return column;
+}
+
+void SettingsView::setSelectedTab(const QString &selection)
+{
+    m_selectedTab = selection;
+    showPage();
+}
+
+void SettingsView::showPage()
+{
+    for (TabButton *button : std::as_const(m_tabButtons))
+        button->setSelection(m_selectedTab);
+    const std::optional<SettingsTab> named = SettingsTab::fromRawValue(m_selectedTab);
+    const SettingsTab tab = named.value_or(SettingsTab::general);
+    if (m_page && m_pageTab == tab && m_pageIsFallback == !named)
+        return;
+    if (m_page) {
+        // Later, not now: the old page may be in the middle of its own call-back.
+        m_page->hide();
+        m_layout->removeWidget(m_page);
+        m_page->deleteLater();
+    }
+    m_page = makePage(tab, m_env);
+    m_pageTab = tab;
+    m_pageIsFallback = !named;
+    m_layout->addWidget(m_page, 1);
+    if (isVisible())
+        m_page->show();
+}

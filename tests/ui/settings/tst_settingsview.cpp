@@ -1,0 +1,131 @@
+#include "core/i18n/LanguageManager.h"
+#include "ui/feedback/FeedbackView.h"
+#include "ui/settings/SettingsView.h"
+#include "ui/settings/TabButton.h"
+
+#include "FakeTimerFactory.h"
+#include "Screenshot.h"
+#include "ScriptedPrompter.h"
+#include "TempSettings.h"
+
+#include <QAccessible>
+#include <QPointer>
+#include <QTest>
+
+// The settings window's frame: its fixed size, the tab column, which page shows for which
+// selection, and what assistive technology sees of the tabs.
+class SettingsViewTest : public QObject {
+    Q_OBJECT
+
+    struct Rig {
+        TempSettings settings;
+        FakeTimerFactory timers;
+        LanguageManager language{settings.store(), timers, {"en"}};
+        ScriptedPrompter prompter;
+        ViewEnvironment env{&language, &settings.store(), &timers, nullptr, &prompter};
+        SettingsView view{env};
+
+        Rig()
+        {
+            view.show();
+            static_cast<void>(QTest::qWaitForWindowExposed(&view));
+        }
+        QList<SettingsTab> selectedTabs() const
+        {
+            QList<SettingsTab> selected;
+            for (SettingsTab tab : SettingsTab::allCases())
+                if (view.tabButton(tab)->isSelected())
+                    selected.append(tab);
+            return selected;
+        }
+    };
+
+    static bool close(const QColor &a, const QColor &b)
+    {
+        return qAbs(a.red() - b.red()) <= 2 && qAbs(a.green() - b.green()) <= 2
+               && qAbs(a.blue() - b.blue()) <= 2;
+    }
+
+    static QAccessibleInterface *accessible(QWidget *widget)
+    {
+        return QAccessible::queryAccessibleInterface(widget);
+    }
+
+private Q_SLOTS:
+    void frameAndTabs()
+    {
+        Rig rig;
+        QCOMPARE(rig.view.size(), QSize(700, 550));
+        QCOMPARE(rig.view.minimumSize(), rig.view.maximumSize());
+        QStringList titles;
+        int top = -1;
+        for (SettingsTab tab : SettingsTab::allCases()) {
+            TabButton *button = rig.view.tabButton(tab);
+            QCOMPARE(button->width(), SettingsView::tabColumnWidth);
+            QVERIFY(button->y() > top);
+            top = button->y();
+            titles << accessible(button)->text(QAccessible::Name);
+            QCOMPARE(accessible(button)->role(), QAccessible::PageTab);
+            QCOMPARE(accessible(button)->state().selected, tab == SettingsTab::general);
+        }
+        QCOMPARE(titles, QStringList({"General", "Browser", "Mail", "Log", "Feedback"}));
+        QCOMPARE(rig.view.page()->x(), SettingsView::tabColumnWidth + 1);
+
+        // The selected tab sits on the accent colour at a tenth, over the column's colour.
+        const QImage shot = rig.view.grab().toImage();
+        const QColor accent = rig.view.palette().color(QPalette::Highlight);
+        const QColor base = rig.view.palette().color(QPalette::Base);
+        const QColor selected =
+            shot.pixelColor(rig.view.tabButton(SettingsTab::general)->pos() + QPoint(3, 3));
+        QVERIFY(close(selected, QColor(qRound(0.1 * accent.red() + 0.9 * base.red()),
+                                       qRound(0.1 * accent.green() + 0.9 * base.green()),
+                                       qRound(0.1 * accent.blue() + 0.9 * base.blue()))));
+        QCOMPARE(shot.pixelColor(rig.view.tabButton(SettingsTab::browser)->pos() + QPoint(3, 3)),
+                 base);
+        QVERIFY(saveScreenshot(&rig.view, QStringLiteral("settings-general")));
+    }
+
+    void aPageIsMadeWhenItsTabIsSelectedAndDroppedAfter()
+    {
+        Rig rig;
+        QPointer<QWidget> general = rig.view.page();
+        QTest::mouseClick(rig.view.tabButton(SettingsTab::feedback), Qt::LeftButton, Qt::NoModifier,
+                          QPoint(140, 5));
+        QCOMPARE(rig.view.selectedTab(), QString("feedback"));
+        QVERIFY(qobject_cast<FeedbackView *>(rig.view.page()));
+        QCOMPARE(rig.selectedTabs(), QList<SettingsTab>{SettingsTab::feedback});
+        QTRY_VERIFY(!general);
+        QVERIFY(rig.view.page()->isVisible());
+        QVERIFY(saveScreenshot(&rig.view, QStringLiteral("settings-feedback")));
+
+        // The same selection again keeps the page; pressing through the accessible action
+        // selects like a click.
+        QPointer<QWidget> feedback = rig.view.page();
+        rig.view.setSelectedTab(QStringLiteral("feedback"));
+        QCOMPARE(rig.view.page(), feedback.data());
+        accessible(rig.view.tabButton(SettingsTab::log))
+            ->actionInterface()
+            ->doAction(QAccessibleActionInterface::pressAction());
+        QCOMPARE(rig.view.selectedTab(), QString("log"));
+        QTRY_VERIFY(!feedback);
+    }
+
+    void textThatNamesNoTabShowsTheGeneralPageWithNoTabMarked()
+    {
+        Rig rig;
+        QPointer<QWidget> general = rig.view.page();
+        rig.view.setSelectedTab(QStringLiteral("advanced"));
+        QCOMPARE(rig.view.selectedTab(), QString("advanced"));
+        QVERIFY(rig.selectedTabs().isEmpty());
+        QVERIFY(!accessible(rig.view.tabButton(SettingsTab::general))->state().selected);
+        QTRY_VERIFY(!general);
+        QPointer<QWidget> fallback = rig.view.page();
+        rig.view.setSelectedTab(QStringLiteral("GENERAL"));
+        QCOMPARE(rig.view.page(), fallback.data());
+        rig.view.setSelectedTab(QStringLiteral("general"));
+        QCOMPARE(rig.selectedTabs(), QList<SettingsTab>{SettingsTab::general});
+    }
+};
+
+QTEST_MAIN(SettingsViewTest)
+#include "tst_settingsview.moc"

@@ -1,0 +1,84 @@
+#pragma once
+
+#include "GuardWorld.h"
+#include "core/guard/BrowserManager.h"
+#include "core/guard/EmailClientManager.h"
+#include "core/i18n/LanguageManager.h"
+#include "ui/ViewEnvironment.h"
+#include "ui/WindowRouter.h"
+
+#include <QStringList>
+
+// Both guards over a GuardWorld (current defaults Firefox and Thunderbird) and the views'
+// environment over them, with a router whose window requests are recorded and then handed
+// to `opener`, if set.
+struct ShellWorld {
+    // What a guard is made to be: the first two work, the last two don't.
+    enum class Mode { protected_, mismatch, notProtected, notProtectedMismatch };
+
+    GuardWorld world;
+    LanguageManager language{world.settings.store(), world.timers, {"en"}};
+    BrowserManager browser{guardEnvironment()};
+    EmailClientManager email{guardEnvironment()};
+    QStringList openedWindows;
+    std::function<void(const QString &)> opener;
+    WindowRouter router{world.timers, [this](const QString &id) {
+                            openedWindows << id;
+                            if (opener)
+                                opener(id);
+                        }};
+    ViewEnvironment env;
+
+    ShellWorld()
+    {
+        LanguageManager::setShared(&language);
+        env.language = &language;
+        env.settings = &world.settings.store();
+        env.timers = &world.timers;
+        env.clock = &world.clock;
+        env.prompter = &world.alerts;
+        env.telemetry = &world.telemetry;
+        env.log = &world.log;
+        env.router = &router;
+        env.browserManager = &browser;
+        env.emailClientManager = &email;
+    }
+
+    ~ShellWorld() { LanguageManager::setShared(nullptr); }
+
+    // The guards' texts follow the language, as in the program.
+    GuardEnvironment guardEnvironment()
+    {
+        GuardEnvironment environment = world.environment();
+        environment.texts = &language;
+        return environment;
+    }
+
+    // Targets Firefox (or Chromium, for a mismatch) with monitoring on or off.
+    void setBrowser(Mode mode)
+    {
+        set(browser, mode, Browser("Firefox", "firefox-esr"), Browser("Chromium", "chromium"));
+    }
+    // Targets Thunderbird (or Evolution, for a mismatch).
+    void setEmail(Mode mode)
+    {
+        set(email, mode, EmailClient("Thunderbird", "thunderbird"),
+            EmailClient("Evolution", "evolution"));
+    }
+
+    void switchLanguage(AppLanguage language)
+    {
+        this->language.setCurrentLanguage(language);
+        world.timers.fire(std::chrono::milliseconds(50));
+    }
+
+private:
+    static void set(HandlerGuard &guard, Mode mode, const HandlerRecord &current,
+                    const HandlerRecord &other)
+    {
+        const bool mismatch = mode == Mode::mismatch || mode == Mode::notProtectedMismatch;
+        guard.setTarget(mismatch ? other : current);
+        guard.setMonitoringEnabled(mode == Mode::protected_ || mode == Mode::mismatch);
+        GuardWorld::settle();
+    }
+};
