@@ -10,6 +10,7 @@ packages=(
   xvfb xauth x11-utils trayer xdotool dbus dbus-x11 xdg-utils libglib2.0-bin desktop-file-utils
   imagemagick fonts-dejavu-core fonts-noto-color-emoji fonts-noto-cjk
   dpkg-dev lintian appstream
+  at-spi2-core python3-pyatspi
   clang libclang-rt-14-dev python3
 )
 

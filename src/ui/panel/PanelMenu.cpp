@@ -12,7 +12,11 @@ namespace {
 void showState(QAction *entry, const StatusRowState &state, const LanguageManager &language)
 {
     entry->setText(withoutMnemonic(state.summary(language)));
-    entry->setIcon(QIcon(state.shield(32)));
+    // The entry cannot be chosen, but its shield keeps its colour.
+    const QPixmap shield = state.shield(32);
+    QIcon icon(shield);
+    icon.addPixmap(shield, QIcon::Disabled);
+    entry->setIcon(icon);
 }
 
 } // namespace

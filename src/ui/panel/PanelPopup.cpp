@@ -6,13 +6,6 @@
 #include <QScreen>
 #include <QVBoxLayout>
 
-namespace {
-
-// A click that closes the panel reaches the icon within this time, if at all.
-constexpr qint64 sameClickMs = 500;
-
-} // namespace
-
 PanelPopup::PanelPopup(QWidget *parent)
     : QFrame(parent, Qt::Popup | Qt::FramelessWindowHint), m_layout(new QVBoxLayout(this))
 {
@@ -39,10 +32,6 @@ void PanelPopup::toggle(const QRect &iconGeometry)
 {
     if (isVisible()) {
         close();
-        return;
-    }
-    if (m_closedByIcon.isValid() && m_closedByIcon.elapsed() < sameClickMs) {
-        m_closedByIcon.invalidate();
         return;
     }
     m_iconGeometry = iconGeometry;
@@ -77,9 +66,8 @@ QPoint PanelPopup::placement(const QSize &size, const QRect &icon, const QPoint 
 void PanelPopup::mousePressEvent(QMouseEvent *event)
 {
     const QPoint global = event->globalPosition().toPoint();
-    if (!rect().contains(event->position().toPoint()) && m_iconGeometry.contains(global)) {
+    // The press that closes the panel must not reach the icon and open it again.
+    if (!rect().contains(event->position().toPoint()) && m_iconGeometry.contains(global))
         setAttribute(Qt::WA_NoMouseReplay);
-        m_closedByIcon.start();
-    }
     QFrame::mousePressEvent(event);
 }

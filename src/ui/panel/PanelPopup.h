@@ -1,6 +1,5 @@
 #pragma once
 
-#include <QElapsedTimer>
 #include <QFrame>
 #include <QPointer>
 
@@ -34,6 +33,4 @@ private:
     QVBoxLayout *m_layout;
     QPointer<QWidget> m_root;
     QRect m_iconGeometry;
-    // When a press on the icon closed the panel: the same click must not open it again.
-    QElapsedTimer m_closedByIcon;
 };

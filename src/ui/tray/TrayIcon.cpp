@@ -45,7 +45,8 @@ TrayIcon::TrayIcon(BrowserManager &browserManager, EmailClientManager &emailClie
     qApp->installEventFilter(this);
     connect(&m_tray, &QSystemTrayIcon::activated, this,
             [this](QSystemTrayIcon::ActivationReason reason) {
-                if (reason == QSystemTrayIcon::Trigger)
+                // A click soon after the one that closed the panel comes as a double click.
+                if (reason == QSystemTrayIcon::Trigger || reason == QSystemTrayIcon::DoubleClick)
                     Q_EMIT triggered(m_tray.geometry());
             });
     update();

@@ -39,7 +39,8 @@ public:
     void show();
 
 Q_SIGNALS:
-    // A left click, with where the icon is (empty where the tray does not say).
+    // A left click (or the second of two quick ones), with where the icon is (empty where
+    // the tray does not say).
     void triggered(const QRect &iconGeometry);
 
 protected:

@@ -164,7 +164,7 @@ private Q_SLOTS:
                  QStringList({"Standardbrowser", "Firefox", "Sollte Chromium sein",
                               "Abweichung ・ Geschützt"}));
         QCOMPARE(texts(view.emailRow()),
-                 QStringList({"Standard-E-Mail-Programm", "Thunderbird", "Nicht geschützt"}));
+                 QStringList({"Standard-E-Mail-Programm", "Thunderbird", "Ungeschützt"}));
         QCOMPARE(QAccessible::queryAccessibleInterface(view.commandRows().first())
                      ->text(QAccessible::Name),
                  QString("Einstellungen Ctrl+,"));
