@@ -97,6 +97,11 @@ private Q_SLOTS:
         QTRY_VERIFY(!general);
         QVERIFY(rig.view.page()->isVisible());
         QVERIFY(saveScreenshot(&rig.view, QStringLiteral("settings-feedback")));
+        QPalette dark(QColor(0x3a, 0x3a, 0x3a), QColor(0x1e, 0x1e, 0x1e));
+        dark.setColor(QPalette::Base, QColor(0x2a, 0x2a, 0x2a));
+        dark.setColor(QPalette::Highlight, QColor(0x0a, 0x84, 0xff));
+        rig.view.setPalette(dark);
+        QVERIFY(saveScreenshot(&rig.view, QStringLiteral("settings-feedback-dark")));
 
         // The same selection again keeps the page; pressing through the accessible action
         // selects like a click.

@@ -73,11 +73,7 @@ private Q_SLOTS:
         const Part notProtected{"Not protected", StateColour::red};
         const Part dot{" ・ ", std::nullopt};
         const QList<Row> rows = {
-            {true,
-             true,
-             "checkmark.shield.fill",
-             StateColour::orange,
-             {mismatch, dot, protected_}},
+            {true, true, "checkmark.shield.fill", StateColour::orange, {mismatch, dot, protected_}},
             {true, false, "xmark.shield.fill", StateColour::red, {notProtected, dot, mismatch}},
             {false, true, "checkmark.shield.fill", StateColour::green, {protected_}},
             {false, false, "xmark.shield.fill", StateColour::red, {notProtected}},
@@ -114,8 +110,7 @@ private Q_SLOTS:
             << Mode::notProtectedMismatch
             << QStringList{"Default browser", "Firefox", "Should be Chromium",
                            "Not protected ・ Mismatch"}
-            << QList<QColor>{StateColour::red, secondary, StateColour::orange}
-            << StateColour::red;
+            << QList<QColor>{StateColour::red, secondary, StateColour::orange} << StateColour::red;
     }
     void rowsInEachState()
     {
@@ -169,6 +164,8 @@ private Q_SLOTS:
                      ->text(QAccessible::Name),
                  QString("Einstellungen Ctrl+,"));
         QVERIFY(saveScreenshot(&view, QStringLiteral("panel-de")));
+        view.setPalette(QPalette(QColor(0x3a, 0x3a, 0x3a), QColor(0x1e, 0x1e, 0x1e)));
+        QVERIFY(saveScreenshot(&view, QStringLiteral("panel-de-dark")));
     }
 
     void rowsLeadToTheirPlaces()
@@ -231,6 +228,12 @@ private Q_SLOTS:
                  QString("Default mail client: Thunderbird — Protected"));
         menu.actions().at(5)->trigger();
         QCOMPARE(shell.openedWindows, QStringList("about"));
+
+        // An "&" in a name shows as it is, and takes no key.
+        shell.world.handlers.install("fire-ice", QStringLiteral("Fire & Ice"));
+        shell.world.browsersDefault("fire-ice");
+        shell.browser.updateCurrentDefaultBrowser();
+        QVERIFY(menu.browserEntry()->text().startsWith(u"Default browser: Fire && Ice,"));
     }
 
     void wherePanelOpens()
