@@ -63,6 +63,14 @@ class Shell:
     def icon_shot(self, name):
         return self.shot(name, self.desktop.geometry(self.icon))
 
+    def panel_shot(self, name, panel_window):
+        """The panel with the tray icon above it, on a margin of the desktop."""
+        boxes = [self.desktop.geometry(w) for w in (panel_window, self.icon)]
+        left = max(0, min(x for x, _, _, _ in boxes) - 16)
+        right = max(x + width for x, _, width, _ in boxes)
+        bottom = max(y + height for _, y, _, height in boxes) + 16
+        return self.shot(name, (left, 0, right - left, bottom))
+
     def open_panel(self):
         """Clicks the icon; returns the panel's node and its X window."""
         before = set(self.desktop.mapped_windows(self.program.pid))
@@ -120,7 +128,7 @@ class ShellTest(unittest.TestCase):
         self.assertEqual(names, ["Default browser: Firefox ESR — Protected",
                                  "Default mail client: Thunderbird — Protected",
                                  "Settings Ctrl+,", "Send feedback", "About", "Quit Ctrl+Q"])
-        shell.shot("e2e-panel-en", d.geometry(panel_window))
+        shell.panel_shot("e2e-panel-en", panel_window)
 
         # The mail row opens the settings window on the mail page.
         accessible.press(shell.row(panel, "Default mail client"))
@@ -200,7 +208,7 @@ class ShellTest(unittest.TestCase):
         self.assertEqual(shell.row(panel, "Standardbrowser").get_name(),
                          "Standardbrowser: Chromium, Sollte Firefox ESR sein — "
                          "Abweichung ・ Geschützt")
-        shell.shot("e2e-panel-de-mismatch", d.geometry(panel_window))
+        shell.panel_shot("e2e-panel-de-mismatch", panel_window)
         accessible.press(shell.row(panel, "Beenden"))
         self.assertEqual(program.wait_for_exit(), 0)
         shell.popups.close()
