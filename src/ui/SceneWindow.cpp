@@ -1,6 +1,7 @@
 #include "ui/SceneWindow.h"
 
 #include "core/i18n/LanguageManager.h"
+#include "ui/WidgetSwap.h"
 
 #include <QCloseEvent>
 #include <QCursor>
@@ -58,16 +59,7 @@ void SceneWindow::closeEvent(QCloseEvent *event)
 
 void SceneWindow::setRoot(QWidget *root)
 {
-    if (m_root) {
-        m_layout->removeWidget(m_root);
-        m_root->hide();
-        m_root->deleteLater();
-    }
-    m_root = root;
-    m_layout->addWidget(root);
-    // Shown now, not on a later turn: a new root appears at once in an open window.
-    if (isVisible())
-        root->show();
+    swapWidget(m_layout, m_root, root);
 }
 
 void SceneWindow::updateSceneTitle()

@@ -9,6 +9,7 @@ target_sources(vandorel_ui PRIVATE
 # Routing: how a wish for a page or a window reaches it.
 target_sources(vandorel_ui PRIVATE
   SceneWindow.h SceneWindow.cpp
+  WidgetSwap.h
   WindowList.h WindowList.cpp
   WindowRouter.h WindowRouter.cpp
   WindowTitleUpdater.h WindowTitleUpdater.cpp

@@ -1,5 +1,7 @@
 #include "ui/panel/PanelPopup.h"
 
+#include "ui/WidgetSwap.h"
+
 #include <QCursor>
 #include <QGuiApplication>
 #include <QMouseEvent>
@@ -17,15 +19,7 @@ PanelPopup::PanelPopup(QWidget *parent)
 
 void PanelPopup::setRoot(QWidget *root)
 {
-    if (m_root) {
-        m_layout->removeWidget(m_root);
-        m_root->hide();
-        m_root->deleteLater();
-    }
-    m_root = root;
-    m_layout->addWidget(root);
-    if (isVisible())
-        root->show();
+    swapWidget(m_layout, m_root, root);
 }
 
 void PanelPopup::toggle(const QRect &iconGeometry)

@@ -1,6 +1,7 @@
 #include "ui/settings/SettingsView.h"
 
 #include "core/feedback/FeedbackForm.h"
+#include "ui/WidgetSwap.h"
 #include "ui/WindowList.h"
 #include "ui/WindowRouter.h"
 #include "ui/WindowTitleUpdater.h"
@@ -99,19 +100,9 @@ void SettingsView::showPage()
     for (TabButton *button : std::as_const(m_tabButtons))
         button->setSelection(m_selectedTab);
     const std::optional<SettingsTab> named = SettingsTab::fromRawValue(m_selectedTab);
-    const SettingsTab tab = named.value_or(SettingsTab::general);
-    if (m_page && m_pageTab == tab && m_pageIsFallback == !named)
+    const QString pageKey = named ? named->rawValue() : QString();
+    if (m_page && pageKey == m_pageKey)
         return;
-    if (m_page) {
-        // Later, not now: the old page may be in the middle of its own call-back.
-        m_page->hide();
-        m_layout->removeWidget(m_page);
-        m_page->deleteLater();
-    }
-    m_page = makePage(tab, m_env);
-    m_pageTab = tab;
-    m_pageIsFallback = !named;
-    m_layout->addWidget(m_page, 1);
-    if (isVisible())
-        m_page->show();
+    m_pageKey = pageKey;
+    swapWidget(m_layout, m_page, makePage(named.value_or(SettingsTab::general), m_env), 1);
 }

@@ -7,8 +7,6 @@
 #include <QPointer>
 #include <QWidget>
 
-#include <optional>
-
 class QHBoxLayout;
 class TabButton;
 
@@ -49,7 +47,7 @@ private:
     QList<TabButton *> m_tabButtons;
     QHBoxLayout *m_layout = nullptr;
     QPointer<QWidget> m_page;
-    // The selection the page was made for; texts that name no tab share one page.
-    std::optional<SettingsTab> m_pageTab;
-    bool m_pageIsFallback = false;
+    // The tab the page was made for; empty for the general page shown for any text that
+    // names no tab.
+    QString m_pageKey;
 };

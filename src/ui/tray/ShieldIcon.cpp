@@ -11,30 +11,42 @@ const QList<int> &ShieldIcon::sizes()
     return sizes;
 }
 
+namespace {
+
+struct Look {
+    const char *symbol;
+    QColor colour;
+    const char *textKey;
+};
+
+const Look &lookOf(ProtectionStatus status)
+{
+    static const Look protectedLook{"checkmark.shield.fill", StateColour::green,
+                                    "status_protected"};
+    static const Look notProtectedLook{"xmark.shield.fill", StateColour::red,
+                                       "status_not_protected"};
+    static const Look mismatchLook{"exclamationmark.shield.fill", StateColour::orange,
+                                   "status_mismatch"};
+    return status == ProtectionStatus::protected_ ? protectedLook
+           : status == ProtectionStatus::mismatch ? mismatchLook
+                                                  : notProtectedLook;
+}
+
+} // namespace
+
 QString ShieldIcon::symbolFor(ProtectionStatus status)
 {
-    switch (status) {
-    case ProtectionStatus::protected_:
-        return QStringLiteral("checkmark.shield.fill");
-    case ProtectionStatus::notProtected:
-        return QStringLiteral("xmark.shield.fill");
-    case ProtectionStatus::mismatch:
-        return QStringLiteral("exclamationmark.shield.fill");
-    }
-    return QStringLiteral("shield");
+    return QLatin1StringView(lookOf(status).symbol);
 }
 
 QColor ShieldIcon::colourFor(ProtectionStatus status)
 {
-    switch (status) {
-    case ProtectionStatus::protected_:
-        return StateColour::green;
-    case ProtectionStatus::notProtected:
-        return StateColour::red;
-    case ProtectionStatus::mismatch:
-        return StateColour::orange;
-    }
-    return StateColour::red;
+    return lookOf(status).colour;
+}
+
+QString ShieldIcon::textKeyFor(ProtectionStatus status)
+{
+    return QLatin1StringView(lookOf(status).textKey);
 }
 
 QIcon ShieldIcon::make(const QString &symbol, const QColor &colour)

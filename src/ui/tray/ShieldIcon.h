@@ -17,6 +17,8 @@ public:
     // The symbol name and the colour of an overall status.
     static QString symbolFor(ProtectionStatus status);
     static QColor colourFor(ProtectionStatus status);
+    // The key of the status's name ("status_protected", ...).
+    static QString textKeyFor(ProtectionStatus status);
 
     // `colour` where the symbol's shape is opaque and nothing elsewhere, drawn afresh at
     // every size. A symbol that has no picture gives the plain "shield".

@@ -11,23 +11,6 @@
 #include <QEvent>
 #include <QPalette>
 
-namespace {
-
-QString statusKey(ProtectionStatus status)
-{
-    switch (status) {
-    case ProtectionStatus::protected_:
-        return QStringLiteral("status_protected");
-    case ProtectionStatus::notProtected:
-        return QStringLiteral("status_not_protected");
-    case ProtectionStatus::mismatch:
-        return QStringLiteral("status_mismatch");
-    }
-    return {};
-}
-
-} // namespace
-
 TrayIcon::TrayIcon(BrowserManager &browserManager, EmailClientManager &emailClientManager,
                    LanguageManager &language, SettingsStore &settings, QObject *parent)
     : QObject(parent), m_browserManager(browserManager), m_emailClientManager(emailClientManager),
@@ -120,7 +103,7 @@ QString TrayIcon::toolTip() const
 {
     const auto line = [this](const char *titleKey, ProtectionStatus status) -> QString {
         return m_language.localizedString(QLatin1StringView(titleKey)) + u": "
-               + m_language.localizedString(statusKey(status));
+               + m_language.localizedString(ShieldIcon::textKeyFor(status));
     };
     return QGuiApplication::applicationDisplayName() + u'\n'
            + line("status_default_browser", getBrowserStatus()) + u'\n'
