@@ -24,12 +24,13 @@
 #include <QCoreApplication>
 #include <QGuiApplication>
 #include <QTimer>
+#include <QUrl>
 
 #include <cstdlib>
 
 VandorelApp::VandorelApp(const Options &options)
 {
-    ensureSingleInstance();
+    ensureSingleInstance(options.url);
     startAnalytics();
     // Events wait in the queue until a window of ours first becomes active.
     connect(qGuiApp, &QGuiApplication::applicationStateChanged, this,
@@ -66,6 +67,8 @@ VandorelApp::VandorelApp(const Options &options)
     QTimer::singleShot(0, m_delegate, &AppDelegate::applicationDidFinishLaunching);
     connect(qApp, &QCoreApplication::aboutToQuit, m_delegate,
             &AppDelegate::applicationWillTerminate);
+    if (!options.url.isEmpty())
+        QTimer::singleShot(0, this, [this, url = options.url] { openUrl(url); });
 }
 
 VandorelApp::~VandorelApp() = default;
@@ -121,11 +124,35 @@ void VandorelApp::showScenes()
     m_scenes->start();
 }
 
-void VandorelApp::ensureSingleInstance()
+// A later copy hands a URL it was given to the copy that runs and ends; a URL the running
+// copy doesn't know is ignored, and the later copy ends as a plain second start does.
+void VandorelApp::ensureSingleInstance(const QString &url)
 {
-    m_singleInstance = PlatformBackend::createSingleInstance(QString::fromUtf8(BuildConfig::appId));
-    if (m_singleInstance->claim())
+    const QString appId = QString::fromUtf8(BuildConfig::appId);
+    m_singleInstance = PlatformBackend::createSingleInstance(appId);
+    m_urlHandOver = PlatformBackend::createUrlHandOver(appId);
+    if (m_singleInstance->claim()) {
+        m_urlHandOver->listen([this](const QString &handed) { return openWindowOf(handed); });
         return;
+    }
+    if (!url.isEmpty()) {
+        const UrlHandOver::Result result = m_urlHandOver->handOver(url);
+        if (result == UrlHandOver::Result::opened)
+            std::exit(0);
+        if (result == UrlHandOver::Result::refused)
+            Console::line(u"⚠️ Unknown URL: " + url);
+    }
     Console::line(QStringLiteral("⚠️ Another instance is already running. Exiting..."));
     std::exit(0);
+}
+
+void VandorelApp::openUrl(const QString &url)
+{
+    if (!openWindowOf(url))
+        Console::line(u"⚠️ Unknown URL: " + url);
+}
+
+bool VandorelApp::openWindowOf(const QString &url)
+{
+    return m_scenes && m_scenes->openUrl(QUrl(url));
 }

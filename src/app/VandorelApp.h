@@ -21,6 +21,7 @@ class SystemEvents;
 class Telemetry;
 class TimerFactory;
 class UpdateSheetPresenter;
+class UrlHandOver;
 
 // Builds and wires the running program: refuses a second copy, starts the process-wide
 // services, constructs both guards and hands the life-cycle call-backs to AppDelegate.
@@ -29,6 +30,8 @@ class VandorelApp : public QObject {
 public:
     struct Options {
         bool launchedAtLogin = false;
+        // A URL given on the command line, opened once the program runs.
+        QString url;
     };
 
     explicit VandorelApp(const Options &options);
@@ -42,7 +45,10 @@ public:
     AppScenes &scenes() { return *m_scenes; }
 
 private:
-    void ensureSingleInstance();
+    void ensureSingleInstance(const QString &url);
+    // Opens the window a URL names; false, with nothing opened, for a URL it doesn't know.
+    bool openWindowOf(const QString &url);
+    void openUrl(const QString &url);
     void startAnalytics();
     void startUpdates();
     void showScenes();
@@ -52,6 +58,7 @@ private:
     std::unique_ptr<InstallLayout> m_installLayout;
     std::unique_ptr<ModalPrompter> m_prompter;
     std::unique_ptr<UpdateSheetPresenter> m_updateSheet;
+    std::unique_ptr<UrlHandOver> m_urlHandOver;
     std::unique_ptr<HandlerDatabase> m_handlers;
     std::unique_ptr<Clock> m_clock;
     std::unique_ptr<TimerFactory> m_timers;

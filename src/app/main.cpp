@@ -76,6 +76,7 @@ int main(int argc, char **argv)
 
     VandorelApp::Options options;
     options.launchedAtLogin = commandLine.launchedAtLogin();
+    options.url = commandLine.url();
     VandorelApp app(options);
     return QApplication::exec();
 }

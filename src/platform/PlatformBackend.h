@@ -6,6 +6,7 @@
 #include "platform/LoginItem.h"
 #include "platform/SingleInstance.h"
 #include "platform/SystemEvents.h"
+#include "platform/UrlHandOver.h"
 
 #include <memory>
 
@@ -20,4 +21,5 @@ public:
     static std::unique_ptr<LoginItem> createLoginItem(const QString &appId);
     static std::unique_ptr<DeviceFacts> createDeviceFacts();
     static std::unique_ptr<InstallLayout> createInstallLayout();
+    static std::unique_ptr<UrlHandOver> createUrlHandOver(const QString &appId);
 };

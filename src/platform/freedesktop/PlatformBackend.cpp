@@ -1,6 +1,7 @@
 #include "platform/PlatformBackend.h"
 
 #include "platform/freedesktop/AutostartLoginItem.h"
+#include "platform/freedesktop/DBusUrlHandOver.h"
 #include "platform/freedesktop/FreedesktopDeviceFacts.h"
 #include "platform/freedesktop/FreedesktopHandlerDatabase.h"
 #include "platform/freedesktop/FreedesktopInstallLayout.h"
@@ -37,4 +38,9 @@ std::unique_ptr<DeviceFacts> PlatformBackend::createDeviceFacts()
 std::unique_ptr<InstallLayout> PlatformBackend::createInstallLayout()
 {
     return std::make_unique<FreedesktopInstallLayout>();
+}
+
+std::unique_ptr<UrlHandOver> PlatformBackend::createUrlHandOver(const QString &appId)
+{
+    return std::make_unique<DBusUrlHandOver>(appId);
 }
