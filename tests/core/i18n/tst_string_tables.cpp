@@ -1,5 +1,5 @@
+#include "StringCatalogue.h"
 #include "core/i18n/AppLanguage.h"
-#include "core/i18n/StringCatalogue.h"
 #include "core/support/TextFormat.h"
 
 #include <QDir>

@@ -1,4 +1,4 @@
-#include "core/i18n/StringCatalogue.h"
+#include "StringCatalogue.h"
 
 #include <QRegularExpression>
 
