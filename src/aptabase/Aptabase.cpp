@@ -90,7 +90,7 @@ void Aptabase::initialize(const QString &appKey, const std::optional<InitOptions
     // A client replaced by a second initialize may be inside a reply handler right now.
     if (m_client)
         m_client->deleteLater();
-    m_client = new AptabaseClient(appKey, *baseUrl, m_env, with, m_session, m_clock);
+    m_client = new AptabaseClient(appKey, *baseUrl, m_env, with, m_session, m_clock, m_timers);
 }
 
 std::optional<QString> Aptabase::getBaseUrl(const QString &region,

@@ -13,6 +13,7 @@
 #include <optional>
 
 class QNetworkAccessManager;
+class TimerFactory;
 
 // The public face of the analytics client. It places an app key in its region, refuses a key
 // it cannot place (every later call then falls silent), and checks the properties of events.
@@ -62,10 +63,11 @@ public:
     // Boolean. None (and a line) when a value is of any other kind: the event is dropped.
     static std::optional<CodableProps> toCodableProps(const QVariantMap &from);
 
-    // Used by the next initialize(); both default to the client's own. The transport must
-    // outlive the client.
+    // Used by the next initialize(); each defaults to the client's own. The transport and the
+    // timers must outlive the client.
     void setTransport(QNetworkAccessManager *session) { m_session = session; }
     void setClock(AptabaseClient::Clock clock) { m_clock = std::move(clock); }
+    void setTimers(TimerFactory *timers) { m_timers = timers; }
 
     // The core, or none while tracking is off.
     AptabaseClient *client() const { return m_client; }
@@ -81,4 +83,5 @@ private:
     QMap<QString, QString> m_hosts;
     QNetworkAccessManager *m_session = nullptr;
     AptabaseClient::Clock m_clock;
+    TimerFactory *m_timers = nullptr;
 };

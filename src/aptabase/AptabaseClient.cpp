@@ -2,10 +2,12 @@
 
 #include "aptabase/EventDispatcher.h"
 
+#include "foundation/QtTimerFactory.h"
+
 #include <QRandomGenerator>
-#include <QTimer>
 #include <QtNumeric>
 
+#include <chrono>
 #include <climits>
 #include <cmath>
 
@@ -15,13 +17,21 @@ constexpr double debugFlushInterval = 2.0;
 constexpr double releaseFlushInterval = 60.0;
 constexpr quint64 randomPartRange = 100000000; // eight decimal digits
 
+TimerFactory &qtTimers()
+{
+    static QtTimerFactory timers;
+    return timers;
+}
+
 } // namespace
 
 AptabaseClient::AptabaseClient(const QString &appKey, const QString &baseUrl,
                                const EnvironmentInfo &env,
                                const std::optional<InitOptions> &options,
-                               QNetworkAccessManager *session, Clock clock, QObject *parent)
+                               QNetworkAccessManager *session, Clock clock, TimerFactory *timers,
+                               QObject *parent)
     : QObject(parent), m_clock(clock ? std::move(clock) : Clock(&QDateTime::currentDateTimeUtc)),
+      m_timers(timers ? *timers : qtTimers()),
       m_dispatcher(new EventDispatcher(appKey, baseUrl, env, session, this)), m_env(env)
 {
     m_sessionId = newSessionId();
@@ -71,11 +81,11 @@ void AptabaseClient::trackEvent(const QString &eventName, const CodableProps &pr
 void AptabaseClient::startPolling()
 {
     stopPolling();
-    m_flushTimer = new QTimer(this);
+    m_flushTimer = m_timers.createTimer(this);
     const double milliseconds = std::round(m_flushInterval * 1000);
-    m_flushTimer->setInterval(int(qBound(1.0, milliseconds, double(INT_MAX))));
-    connect(m_flushTimer, &QTimer::timeout, this, &AptabaseClient::timerFlushSync);
-    m_flushTimer->start();
+    connect(m_flushTimer, &Timer::timeout, this, &AptabaseClient::timerFlushSync);
+    m_flushTimer->start(
+        std::chrono::milliseconds(qint64(qBound(1.0, milliseconds, double(INT_MAX)))), true);
 }
 
 void AptabaseClient::stopPolling()

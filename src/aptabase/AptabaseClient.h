@@ -13,7 +13,8 @@
 
 class EventDispatcher;
 class QNetworkAccessManager;
-class QTimer;
+class Timer;
+class TimerFactory;
 
 // The core of the analytics client: stamps events with a session and keeps the flush timer.
 class AptabaseClient : public QObject {
@@ -24,11 +25,12 @@ public:
     static constexpr const char *sdkVersion = "zasuzil@0.3.11";
     static constexpr double sessionTimeout = 3600.0;
 
-    // `session` and `clock` default to a transport of its own and the system clock.
+    // `session`, `clock` and `timers` default to a transport of its own, the system clock
+    // and Qt's timers.
     AptabaseClient(const QString &appKey, const QString &baseUrl, const EnvironmentInfo &env,
                    const std::optional<InitOptions> &options,
                    QNetworkAccessManager *session = nullptr, Clock clock = {},
-                   QObject *parent = nullptr);
+                   TimerFactory *timers = nullptr, QObject *parent = nullptr);
     ~AptabaseClient() override;
 
     void trackEvent(const QString &eventName, const CodableProps &props = {});
@@ -51,7 +53,8 @@ private:
     Clock m_clock;
     QString m_sessionId;
     QDateTime m_lastTouched;
-    QTimer *m_flushTimer = nullptr;
+    TimerFactory &m_timers;
+    Timer *m_flushTimer = nullptr;
     EventDispatcher *m_dispatcher;
     EnvironmentInfo m_env;
     double m_flushInterval;

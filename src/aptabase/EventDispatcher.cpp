@@ -117,9 +117,11 @@ void EventDispatcher::sendEvents(const QList<Event> &batch, std::function<void(b
     for (const auto &[name, value] : m_headers)
         request.setRawHeader(name, value);
     QNetworkReply *reply = m_session->post(request, *body);
+    ++m_sending;
     const qsizetype batchSize = batch.size();
     connect(reply, &QNetworkReply::finished, this, [this, reply, batchSize, finished] {
         reply->deleteLater();
+        --m_sending;
         finished(handleReply(reply, batchSize));
     });
 }

@@ -37,6 +37,8 @@ public:
     const QUrl &apiUrl() const { return m_apiUrl; }
     const QList<QPair<QByteArray, QByteArray>> &headers() const { return m_headers; }
     qsizetype pendingCount() const { return m_events.count(); }
+    // Whether a batch is on its way and its answer still to come.
+    bool isSending() const { return m_sending > 0; }
 
     // The body of one request: a JSON array of the events, or none if one cannot be encoded.
     static std::optional<QByteArray> encode(const QList<Event> &batch);
@@ -53,4 +55,5 @@ private:
     QList<QPair<QByteArray, QByteArray>> m_headers;
     QUrl m_apiUrl;
     QNetworkAccessManager *m_session;
+    int m_sending = 0;
 };

@@ -1,7 +1,9 @@
 #pragma once
 
+#include "FakeTimerFactory.h"
 #include "LoopbackIngestion.h"
 #include "aptabase/Aptabase.h"
+#include "aptabase/EventDispatcher.h"
 
 #include <QJsonArray>
 #include <QJsonObject>
@@ -10,13 +12,16 @@
 #include <QTest>
 
 // The application's analytics client pointed at a loopback ingestion server while it lives.
-// Its flush timer is far off: events go out on the first activation (startPolling) or flush().
+// Its flush timer never fires by itself: events go out on the first activation
+// (startPolling) or flush().
 struct LoopbackAnalytics {
     LoopbackIngestion server;
+    FakeTimerFactory timers;
     Aptabase aptabase;
 
     LoopbackAnalytics()
     {
+        aptabase.setTimers(&timers);
         if (server.listen())
             aptabase.initialize(QStringLiteral("A-SH-7700112233"),
                                 InitOptions(server.baseUrl(), 3600, TrackingMode::asRelease()));
@@ -36,11 +41,11 @@ struct LoopbackAnalytics {
         return all;
     }
 
-    // Waits until `count` events in all have arrived, and a little longer for any extra.
-    QJsonArray arrived(qsizetype count) const
+    // Waits until every batch on its way has been answered, and returns every event so far.
+    QJsonArray arrived() const
     {
-        static_cast<void>(QTest::qWaitFor([&] { return events().size() >= count; }, 5000));
-        QTest::qWait(50);
+        static_cast<void>(QTest::qWaitFor(
+            [this] { return aptabase.client() && !aptabase.client()->dispatcher().isSending(); }));
         return events();
     }
 
@@ -48,10 +53,8 @@ struct LoopbackAnalytics {
     QList<QPair<QString, QJsonObject>> flushedEvents()
     {
         aptabase.flush();
-        QTest::qWait(150);
-        static_cast<void>(QTest::qWaitFor([&] { return server.openRequests == 0; }, 2000));
         QList<QPair<QString, QJsonObject>> named;
-        for (const QJsonValue &event : events())
+        for (const QJsonValue &event : arrived())
             named.append({event[QLatin1String("eventName")].toString(),
                           event[QLatin1String("props")].toObject()});
         return named;

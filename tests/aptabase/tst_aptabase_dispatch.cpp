@@ -1,4 +1,5 @@
 #include "CapturedLines.h"
+#include "FakeTimerFactory.h"
 #include "LoopbackIngestion.h"
 
 #include "aptabase/AptabaseClient.h"
@@ -7,6 +8,8 @@
 #include <QTest>
 
 #include <memory>
+
+using namespace std::chrono_literals;
 
 namespace {
 
@@ -22,12 +25,19 @@ EnvironmentInfo environment()
 }
 
 std::unique_ptr<AptabaseClient> clientFor(const QString &baseUrl, double flushInterval = 3600,
-                                          AptabaseClient::Clock clock = {})
+                                          AptabaseClient::Clock clock = {},
+                                          TimerFactory *timers = nullptr)
 {
     return std::make_unique<AptabaseClient>(
         appKey, baseUrl, environment(),
         InitOptions(baseUrl, flushInterval, TrackingMode::readFromEnvironment()), nullptr,
-        std::move(clock));
+        std::move(clock), timers);
+}
+
+// Waits until every batch on its way has been answered.
+bool sent(const AptabaseClient &client)
+{
+    return QTest::qWaitFor([&client] { return !client.dispatcher().isSending(); });
 }
 
 void track(AptabaseClient &client, int from, int to)
@@ -155,24 +165,29 @@ private slots:
     {
         LoopbackIngestion server;
         QVERIFY(server.listen());
-        auto client = clientFor(server.baseUrl(), 0.02);
+        FakeTimerFactory timers;
+        auto client = clientFor(server.baseUrl(), 0.02, {}, &timers);
         track(*client, 0, 1);
-        QTest::qWait(150);
-        QCOMPARE(server.requests.size(), 0);
+        QVERIFY(!client->dispatcher().isSending());
+        QCOMPARE(client->dispatcher().pendingCount(), 1);
 
         client->startPolling(); // an activation flushes at once, then every tick
         QVERIFY(client->isPolling());
-        QTRY_COMPARE(server.requests.size(), 1);
+        QVERIFY(sent(*client));
+        QCOMPARE(server.requests.size(), 1);
         track(*client, 1, 2);
-        QTRY_COMPARE(server.requests.size(), 2);
+        QCOMPARE(timers.fire(20ms), 1);
+        QVERIFY(sent(*client));
+        QCOMPARE(server.requests.size(), 2);
 
         track(*client, 2, 3);
         client->stopPolling();
         QVERIFY(!client->isPolling());
-        QTRY_COMPARE(server.requests.size(), 3);
-        track(*client, 3, 4);
-        QTest::qWait(150);
+        QVERIFY(sent(*client));
         QCOMPARE(server.requests.size(), 3);
+        track(*client, 3, 4);
+        QCOMPARE(timers.fire(20ms), 0);
+        QCOMPARE(client->dispatcher().pendingCount(), 1);
         QCOMPARE(server.requests[2].eventNames(), names(2, 3));
     }
 
@@ -180,20 +195,23 @@ private slots:
     {
         LoopbackIngestion server;
         QVERIFY(server.listen());
-        auto client = clientFor(server.baseUrl(), 0.02);
+        FakeTimerFactory timers;
+        auto client = clientFor(server.baseUrl(), 0.02, {}, &timers);
         client->startPolling();
-        QTest::qWait(60); // the activation flush and some ticks find nothing to send
-        QCOMPARE(server.requests.size(), 0);
+        timers.fire(20ms); // the activation flush and a tick find nothing to send
+        QVERIFY(!client->dispatcher().isSending());
 
         server.hold();
         track(*client, 0, 1);
+        timers.fire(20ms);
         QTRY_COMPARE(server.requests.size(), 1);
         track(*client, 1, 2);
-        QTest::qWait(150);
-        QCOMPARE(server.requests.size(), 1);
+        timers.fire(20ms);
+        QCOMPARE(client->dispatcher().pendingCount(), 1); // the tick sent nothing
 
         server.release(); // the running flush picks up what arrived meanwhile
-        QTRY_COMPARE(server.requests.size(), 2);
+        QVERIFY(sent(*client));
+        QCOMPARE(server.requests.size(), 2);
         QCOMPARE(server.requests[1].eventNames(), names(1, 2));
         QCOMPARE(server.mostOpenRequests, 1);
     }

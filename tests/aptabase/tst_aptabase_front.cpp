@@ -56,7 +56,7 @@ private slots:
         aptabase.trackEvent("ignored");
         aptabase.startPolling();
         aptabase.flush();
-        QTest::qWait(50);
+        QCoreApplication::processEvents();
         QCOMPARE(server.requests.size(), 0);
         QCOMPARE(captured.lines.size(), 1);
     }

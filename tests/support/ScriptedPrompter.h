@@ -1,8 +1,8 @@
 #pragma once
 
+#include "Settle.h"
 #include "platform/ModalPrompter.h"
 
-#include <QCoreApplication>
 #include <QList>
 
 // Stands in for the user in front of the program's prompts: records each prompt as it goes
@@ -30,11 +30,7 @@ public:
     void answerNext(int button) { m_script.append(button); }
 
     // Lets queued prompts go on screen and scripted answers come back.
-    static void settle()
-    {
-        for (int i = 0; i < 10; ++i)
-            QCoreApplication::processEvents();
-    }
+    static void settle() { ::settle(); }
 
 protected:
     void show(const ModalPrompt &prompt) override

@@ -1,6 +1,7 @@
 #include "ui/feedback/MoodButton.h"
 
 #include "ui/Colours.h"
+#include "ui/Motion.h"
 
 #include <QEnterEvent>
 #include <QPainter>
@@ -8,6 +9,7 @@
 
 namespace {
 
+constexpr int springDuration = 320;
 constexpr int circleDiameter = 46;
 constexpr double emphasisScale = 1.16;
 constexpr double hoverLift = 3.0;
@@ -36,7 +38,6 @@ MoodButton::MoodButton(const QString &emoji, QWidget *parent)
     setFocusPolicy(Qt::TabFocus);
     setAccessibleName(emoji);
     for (QVariantAnimation *animation : {&m_emphasis, &m_lift}) {
-        animation->setDuration(320);
         animation->setEasingCurve(QEasingCurve::OutBack);
         animation->setStartValue(0.0);
         animation->setEndValue(0.0);
@@ -69,6 +70,7 @@ void MoodButton::animate(QVariantAnimation &animation, double target)
     animation.stop();
     animation.setStartValue(current);
     animation.setEndValue(target);
+    animation.setDuration(Motion::duration(this, springDuration));
     animation.start();
 }
 

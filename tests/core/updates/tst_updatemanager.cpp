@@ -9,10 +9,12 @@
 #include "FakeTimerFactory.h"
 #include "FeedServer.h"
 #include "ScriptedPrompter.h"
+#include "Settle.h"
 #include "TempSettings.h"
 
 #include <QDir>
 #include <QFile>
+#include <QNetworkAccessManager>
 #include <QTemporaryDir>
 #include <QTest>
 
@@ -75,7 +77,7 @@ public:
         const qsizetype before = console.lines().size();
         manager->checkAutomaticallyAndPresentIfAvailable();
         QTRY_VERIFY(console.lines().mid(before).join(u'\n').contains(u"✅"));
-        QTest::qWait(20); // the queued answer and the updater's turn
+        settle(); // the queued answer and the updater's turn
     }
 
     double snoozeUntil()
@@ -175,7 +177,7 @@ private Q_SLOTS:
         rig.server.release();
 
         QTRY_COMPARE(rig.answers.size(), 1);
-        QTest::qWait(100);
+        settle();
         QCOMPARE(rig.answers, QStringList{"second yes 2.0"});
         QVERIFY(rig.console.startingWith("❌").isEmpty());
     }
@@ -215,8 +217,8 @@ private Q_SLOTS:
         QCOMPARE(rig.console.take().size(), 1);
         QVERIFY(!rig.manager->checkForUpdatesWithSparkle());
         rig.manager->checkAutomaticallyAndPresentIfAvailable();
-        QTest::qWait(200);
-        QVERIFY(rig.server.requestLines.isEmpty());
+        settle();
+        QVERIFY(!rig.manager->findChild<QNetworkAccessManager *>()); // no request was made
         QVERIFY(rig.console.lines().isEmpty());
         QVERIFY(rig.calls.isEmpty());
     }
@@ -241,7 +243,7 @@ private Q_SLOTS:
         rig.timers.fire(8s);
         QVERIFY(rig.manager->checkForUpdatesWithSparkle());
         rig.manager.reset();
-        QTest::qWait(20);
+        settle();
         QCOMPARE(rig.calls.size(), 4);
     }
 

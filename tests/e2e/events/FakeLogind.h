@@ -52,6 +52,7 @@ public:
     }
 
     void setLocked(bool locked) { m_session.locked = locked; }
+    QDBusConnection bus() const { return m_bus; }
 
     void sleep(bool starting)
     {

@@ -3,8 +3,8 @@
 #include <QDir>
 #include <QProcess>
 #include <QTemporaryDir>
+#include <QTest>
 #include <QTextStream>
-#include <QThread>
 
 #include <signal.h>
 #include <sys/types.h>
@@ -39,8 +39,8 @@ public:
                 continue;
             ::kill(static_cast<pid_t>(pid), SIGTERM);
             // Let it go before its socket's folder is removed.
-            for (int i = 0; i < 100 && ::kill(static_cast<pid_t>(pid), 0) == 0; ++i)
-                QThread::msleep(10);
+            static_cast<void>(
+                QTest::qWaitFor([pid] { return ::kill(static_cast<pid_t>(pid), 0) != 0; }, 1000));
         }
     }
 

@@ -14,6 +14,15 @@
 #include <QSignalSpy>
 #include <QTest>
 
+// Counts the markers that close a round of signals.
+class Marker : public QObject {
+    Q_OBJECT
+public:
+    int count = 0;
+public Q_SLOTS:
+    void arrived() { ++count; }
+};
+
 // Wake and unlock reach the guards over real (private) buses: a system-like bus where a
 // fake logind lives, and a session bus where a screen saver may or may not own its name.
 class SystemEventsTest : public QObject {
@@ -36,9 +45,29 @@ class SystemEventsTest : public QObject {
         bus.send(signal);
     }
 
-    // Lets the bus carry a signal to us and back; a wait that ends early is a failure
-    // only where a signal was expected.
-    static void settle() { QTest::qWait(150); }
+    // Waits until what `sender` has sent so far has reached this process on `receiver` and
+    // has been handled: the bus keeps one sender's messages in order, so a marker sent after
+    // them arrives after them.
+    static bool delivered(const QDBusConnection &sender, QDBusConnection receiver)
+    {
+        const QString path = QStringLiteral("/vandorel/test");
+        const QString interface = QStringLiteral("org.vandorel.Test");
+        Marker marker;
+        if (!receiver.connect({}, path, interface, QStringLiteral("Marker"), &marker,
+                              SLOT(arrived())))
+            return false;
+        receiver.interface()->isServiceRegistered(QStringLiteral("org.freedesktop.DBus"));
+        QDBusConnection(sender).send(
+            QDBusMessage::createSignal(path, interface, QStringLiteral("Marker")));
+        const bool arrived = QTest::qWaitFor([&marker] { return marker.count > 0; });
+        receiver.disconnect({}, path, interface, QStringLiteral("Marker"), &marker,
+                            SLOT(arrived()));
+        return arrived;
+    }
+    static bool delivered(const FakeLogind &logind)
+    {
+        return delivered(logind.bus(), QDBusConnection::systemBus());
+    }
 
 private Q_SLOTS:
     void initTestCase()
@@ -57,7 +86,7 @@ private Q_SLOTS:
         FreedesktopSystemEvents events;
         QSignalSpy wakes(&events, &SystemEvents::didWake);
         logind.sleep(true);
-        settle();
+        QVERIFY(delivered(logind));
         QCOMPARE(wakes.count(), 0);
         logind.sleep(false);
         QTRY_COMPARE(wakes.count(), 1);
@@ -74,13 +103,13 @@ private Q_SLOTS:
         QSignalSpy unlocks(&events, &SystemEvents::screenUnlocked);
 
         screenSaverActive(saver, true);
-        settle();
+        QVERIFY(delivered(saver, QDBusConnection::sessionBus()));
         QCOMPARE(unlocks.count(), 0);
         screenSaverActive(saver, false);
         QTRY_COMPARE(unlocks.count(), 1);
         // logind's hint is not listened to as well: one unlock is one event.
         logind.lockedHintChanged(false);
-        settle();
+        QVERIFY(delivered(logind));
         QCOMPARE(unlocks.count(), 1);
 
         saver.unregisterService(QStringLiteral("org.freedesktop.ScreenSaver"));
@@ -97,7 +126,7 @@ private Q_SLOTS:
         logind.lockedHintChanged(false);
         QTRY_COMPARE(unlocks.count(), 1);
         logind.lockedHintChanged(false); // no lock in between: no unlock
-        settle();
+        QVERIFY(delivered(logind));
         QCOMPARE(unlocks.count(), 1);
         logind.lockedHintChanged(true);
         logind.lockedHintChanged(false);
@@ -143,7 +172,7 @@ private Q_SLOTS:
         browser.setCheckOnWake(false);
         logind.sleep(false);
         QTRY_COMPARE(console.startingWith("🔍").size(), 1);
-        settle();
+        QVERIFY(delivered(logind));
         QCOMPARE(console.startingWith("🔍"), QStringList({"🔍 Email: Checking after wake"}));
 
         // A snooze silences the events of its guard until it ends (one hour by default).
@@ -152,7 +181,7 @@ private Q_SLOTS:
         browser.snoozeMonitoring();
         logind.sleep(false);
         QTRY_COMPARE(console.startingWith("🔍").size(), 1);
-        settle();
+        QVERIFY(delivered(logind));
         QCOMPARE(console.startingWith("🔍"), QStringList({"🔍 Email: Checking after wake"}));
         console.take();
         clock.advance(3601);

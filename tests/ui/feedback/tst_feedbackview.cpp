@@ -7,6 +7,7 @@
 
 #include "ConsoleCapture.h"
 #include "FakeTimerFactory.h"
+#include "InstantAnimations.h"
 #include "ScriptedPrompter.h"
 #include "TempSettings.h"
 
@@ -14,6 +15,7 @@
 #include <QClipboard>
 #include <QEnterEvent>
 #include <QLabel>
+#include <QNetworkAccessManager>
 #include <QPlainTextEdit>
 #include <QPushButton>
 #include <QRegularExpression>
@@ -22,6 +24,20 @@
 using namespace std::chrono_literals;
 
 namespace {
+
+// The network of the form, counting the requests it makes.
+class CountingNetwork final : public QNetworkAccessManager {
+public:
+    int requests = 0;
+
+protected:
+    QNetworkReply *createRequest(Operation operation, const QNetworkRequest &request,
+                                 QIODevice *data) override
+    {
+        ++requests;
+        return QNetworkAccessManager::createRequest(operation, request, data);
+    }
+};
 
 // English texts, a feedback server on loopback and the page over them, shown; alerts are
 // recorded instead of shown and wait for an answer.
@@ -33,6 +49,7 @@ struct Rig {
     LoopbackIngestion server;
     LoopbackAnalytics telemetry;
     ScriptedPrompter alerts;
+    CountingNetwork network;
     std::unique_ptr<FeedbackView> view;
 
     explicit Rig(const QString &apiKey = QStringLiteral("key-123"))
@@ -42,6 +59,7 @@ struct Rig {
         FeedbackForm::Options options;
         options.endpointURL = QUrl(server.baseUrl() + u"/api/feedback");
         options.apiKey = apiKey;
+        options.network = &network;
         view = std::make_unique<FeedbackView>(options, language, alerts);
         view->resize(560, 760);
         view->show();
@@ -86,6 +104,7 @@ class FeedbackViewTest : public QObject {
 private Q_SLOTS:
     void initTestCase()
     {
+        InstantAnimations::install();
         const QFontMetrics metrics(QApplication::font());
         QVERIFY2(metrics.horizontalAdvance("iiii") < metrics.horizontalAdvance("WWWW"),
                  "no real font: screenshots would show boxes");
@@ -171,9 +190,8 @@ private Q_SLOTS:
         QCOMPARE(send->text(), rig.text("feedback_sending"));
         check(false);
         rig.click(send);
+        QCOMPARE(rig.network.requests, 1);
         QVERIFY(QTest::qWaitFor([&] { return rig.server.requests.size() == 1; }, 3000));
-        QTest::qWait(100);
-        QCOMPARE(rig.server.requests.size(), 1);
         rig.server.release();
         QVERIFY(QTest::qWaitFor([&] { return rig.alerts.isPresenting(); }, 3000));
 
@@ -244,7 +262,6 @@ private Q_SLOTS:
         QApplication::sendEvent(rig.view->moodButton(1), &enter);
         rig.edit()->setPlainText(
             QStringLiteral("It would be lovely to see which app changed my default browser."));
-        QTest::qWait(400); // let the springs settle
         const QImage shot = rig.view->grab().toImage();
         QVERIFY(shot.save(QCoreApplication::applicationDirPath()
                           + (dark ? u"/feedback_dark.png" : u"/feedback_light.png")));

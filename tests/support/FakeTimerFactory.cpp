@@ -1,0 +1,1 @@
+// Anchors the fake timers' library (the class is header-only with moc).
