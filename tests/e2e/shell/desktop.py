@@ -129,11 +129,13 @@ class Desktop:
         return env
 
     def _start_display(self):
+        # -noreset: by default the server resets when its last client leaves (the
+        # accessibility launcher, say), and refuses connections while it does.
         read_end, write_end = os.pipe()
         width, height = self.size
         self._processes.append(subprocess.Popen(
             ["Xvfb", "-displayfd", str(write_end), "-screen", "0", f"{width}x{height}x24",
-             "-nolisten", "tcp", "-r"],
+             "-nolisten", "tcp", "-r", "-noreset"],
             pass_fds=(write_end,), stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL))
         os.close(write_end)
         number = b""
@@ -176,7 +178,12 @@ class Desktop:
              "--height", "32", "--SetDockType", "true", "--transparent", "false"],
             env=self.env, stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL)
         self._processes.append(tray)
-        wait_for(lambda: self.mapped_windows(tray.pid), 60, "the tray host")
+
+        def shown():
+            if tray.poll() is not None:
+                raise AssertionError("the tray host ended")
+            return self.mapped_windows(tray.pid)
+        wait_for(shown, 60, "the tray host")
         return tray
 
     def start_program(self, binary, args=(), env=None):
