@@ -8,6 +8,7 @@
 #include "ui/panel/PanelRow.h"
 
 #include <QCoreApplication>
+#include <QEvent>
 #include <QFrame>
 #include <QHBoxLayout>
 #include <QLabel>
@@ -27,16 +28,26 @@ QFont fontOf(const QFont &base, int pixelSize, QFont::Weight weight = QFont::Nor
     return font;
 }
 
-void paintText(QLabel *label, const std::optional<QColor> &colour)
+void makeSecondary(QLabel *label)
 {
-    if (!colour) {
-        label->setForegroundRole(QPalette::PlaceholderText);
-        return;
+    label->setForegroundRole(QPalette::PlaceholderText);
+}
+
+// The parts in their colours, as one text that wraps where it must: after a part, never
+// inside one.
+QString richLine(const QList<StatusRowState::Part> &parts, const QColor &secondary)
+{
+    QString html;
+    for (const StatusRowState::Part &part : parts) {
+        QString text = part.text.trimmed().toHtmlEscaped().replace(u' ', u'\u00A0');
+        if (part.text.startsWith(u' '))
+            text.prepend(u'\u00A0');
+        if (part.text.endsWith(u' '))
+            text.append(u' ');
+        html += QStringLiteral("<span style='color:%1'>%2</span>")
+                    .arg(part.colour.value_or(secondary).name(QColor::HexArgb), text);
     }
-    label->setForegroundRole(QPalette::WindowText);
-    QPalette palette = label->palette();
-    palette.setColor(QPalette::WindowText, *colour);
-    label->setPalette(palette);
+    return html;
 }
 
 QLabel *plainLabel(const QString &text = {})
@@ -118,25 +129,21 @@ PanelRow *MenuBarView::makeStatusRow(StatusRow &row)
     lines->setSpacing(lineGap);
     row.title = plainLabel();
     row.title->setFont(fontOf(font(), 11));
-    paintText(row.title, std::nullopt);
+    makeSecondary(row.title);
     row.name = plainLabel();
     row.name->setFont(fontOf(font(), 18, QFont::Bold));
     row.name->setWordWrap(true);
     row.shouldBe = plainLabel();
     row.shouldBe->setFont(fontOf(font(), 11));
     row.shouldBe->setWordWrap(true);
-    auto *statusLine = new QHBoxLayout;
-    statusLine->setSpacing(0);
-    for (int i = 0; i < 3; ++i) {
-        row.line.append(plainLabel());
-        row.line.last()->setFont(fontOf(font(), 14, QFont::Medium));
-        statusLine->addWidget(row.line.last());
-    }
-    statusLine->addStretch();
+    row.line = new QLabel;
+    row.line->setTextFormat(Qt::RichText);
+    row.line->setWordWrap(true);
+    row.line->setFont(fontOf(font(), 14, QFont::Medium));
     lines->addWidget(row.title);
     lines->addWidget(row.name);
     lines->addWidget(row.shouldBe);
-    lines->addLayout(statusLine);
+    lines->addWidget(row.line);
     button->addContent(column, 1);
     m_layout->addWidget(button);
     return button;
@@ -152,7 +159,7 @@ PanelRow *MenuBarView::makeCommandRow(const Command &command)
     if (!command.shortcutLabel.isEmpty()) {
         const QString shortcut = command.shortcutLabel.toString(QKeySequence::NativeText);
         auto *label = plainLabel(u' ' + shortcut);
-        paintText(label, std::nullopt);
+        makeSecondary(label);
         button->addContent(label);
         name += u' ' + shortcut;
     }
@@ -189,14 +196,14 @@ void MenuBarView::showStatus(StatusRow &row, const StatusRowState &state)
     row.shouldBe->setVisible(shouldBe.has_value());
     const QList<StatusRowState::Part> parts =
         StatusRowState::statusLine(state.isMismatch, state.isProtected, *m_env.language);
-    for (int i = 0; i < row.line.size(); ++i) {
-        QLabel *label = row.line.at(i);
-        label->setVisible(i < parts.size());
-        if (i < parts.size()) {
-            label->setText(parts.at(i).text);
-            paintText(label, parts.at(i).colour);
-        }
-    }
+    row.line->setText(richLine(parts, palette().color(QPalette::PlaceholderText)));
+}
+
+void MenuBarView::changeEvent(QEvent *event)
+{
+    QWidget::changeEvent(event);
+    if (event->type() == QEvent::PaletteChange)
+        showStatusRows();
 }
 
 void MenuBarView::showStatusRows()

@@ -43,6 +43,9 @@ public:
     StatusRowState browserState() const;
     StatusRowState emailState() const;
 
+protected:
+    void changeEvent(QEvent *event) override;
+
 private:
     struct StatusRow;
 
@@ -62,7 +65,7 @@ private:
         QLabel *title = nullptr;
         QLabel *name = nullptr;
         QLabel *shouldBe = nullptr;
-        QList<QLabel *> line;
+        QLabel *line = nullptr;
     };
     StatusRow m_browser;
     StatusRow m_email;

@@ -4,7 +4,7 @@
 #include "ui/settings/TabButton.h"
 
 #include "FakeTimerFactory.h"
-#include "Screenshot.h"
+#include "PageChecks.h"
 #include "ScriptedPrompter.h"
 #include "TempSettings.h"
 
@@ -82,7 +82,7 @@ private Q_SLOTS:
                                        qRound(0.1 * accent.blue() + 0.9 * base.blue()))));
         QCOMPARE(shot.pixelColor(rig.view.tabButton(SettingsTab::browser)->pos() + QPoint(3, 3)),
                  base);
-        QVERIFY(saveScreenshot(&rig.view, QStringLiteral("settings-general")));
+        QVERIFY(PageChecks::saveScreenshot(rig.view, QStringLiteral("settings-general")));
     }
 
     void aPageIsMadeWhenItsTabIsSelectedAndDroppedAfter()
@@ -96,12 +96,12 @@ private Q_SLOTS:
         QCOMPARE(rig.selectedTabs(), QList<SettingsTab>{SettingsTab::feedback});
         QTRY_VERIFY(!general);
         QVERIFY(rig.view.page()->isVisible());
-        QVERIFY(saveScreenshot(&rig.view, QStringLiteral("settings-feedback")));
+        QVERIFY(PageChecks::saveScreenshot(rig.view, QStringLiteral("settings-feedback")));
         QPalette dark(QColor(0x3a, 0x3a, 0x3a), QColor(0x1e, 0x1e, 0x1e));
         dark.setColor(QPalette::Base, QColor(0x2a, 0x2a, 0x2a));
         dark.setColor(QPalette::Highlight, QColor(0x0a, 0x84, 0xff));
         rig.view.setPalette(dark);
-        QVERIFY(saveScreenshot(&rig.view, QStringLiteral("settings-feedback-dark")));
+        QVERIFY(PageChecks::saveScreenshot(rig.view, QStringLiteral("settings-feedback-dark")));
 
         // The same selection again keeps the page; pressing through the accessible action
         // selects like a click.
@@ -113,6 +113,19 @@ private Q_SLOTS:
             ->doAction(QAccessibleActionInterface::pressAction());
         QCOMPARE(rig.view.selectedTab(), QString("log"));
         QTRY_VERIFY(!feedback);
+    }
+
+    void tabTitlesFitInTheLanguageWithTheLongestOnes()
+    {
+        Rig rig;
+        const AppLanguage longest = PageChecks::longestLanguage(
+            {"tab_general", "tab_browser", "tab_email", "tab_log", "tab_feedback"});
+        rig.language.setCurrentLanguage(longest);
+        rig.timers.fire(std::chrono::milliseconds(50));
+        SettingsView view(rig.env);
+        for (SettingsTab tab : SettingsTab::allCases())
+            QVERIFY2(view.tabButton(tab)->sizeHint().width() <= SettingsView::tabColumnWidth,
+                     qPrintable(view.tabButton(tab)->title()));
     }
 
     void textThatNamesNoTabShowsTheGeneralPageWithNoTabMarked()

@@ -5,11 +5,13 @@
 #include "ui/panel/PanelPopup.h"
 #include "ui/panel/PanelRow.h"
 
-#include "Screenshot.h"
+#include "PageChecks.h"
 
 #include <QAccessible>
 #include <QLabel>
+#include <QRegularExpression>
 #include <QTest>
+#include <QTextDocumentFragment>
 
 using Mode = ShellWorld::Mode;
 using Part = StatusRowState::Part;
@@ -20,30 +22,26 @@ Q_DECLARE_METATYPE(ShellWorld::Mode)
 class PanelTest : public QObject {
     Q_OBJECT
 
-    // The visible texts of a status row, top to bottom; the status line as one text.
+    // The visible texts of a status row, top to bottom.
     static QStringList texts(PanelRow *row)
     {
         QStringList lines;
-        QString statusLine;
         const auto labels = row->findChildren<QLabel *>();
         for (QLabel *label : labels) {
-            if (!label->isVisibleTo(row) || label->text().isEmpty())
-                continue;
-            if (label->font().pixelSize() == 14)
-                statusLine += label->text();
-            else
-                lines << label->text();
+            if (label->isVisibleTo(row) && !label->text().isEmpty())
+                lines << QTextDocumentFragment::fromHtml(label->text()).toPlainText();
         }
-        return lines << statusLine;
+        return lines;
     }
-    // The colours of the status line's texts.
+    // The colours of the status line's texts, in order.
     static QList<QColor> lineColours(PanelRow *row)
     {
         QList<QColor> colours;
         const auto labels = row->findChildren<QLabel *>();
+        static const QRegularExpression colour(QStringLiteral("color:(#[0-9a-f]{8})"));
         for (QLabel *label : labels) {
-            if (label->isVisibleTo(row) && label->font().pixelSize() == 14)
-                colours << label->palette().color(label->foregroundRole());
+            for (auto it = colour.globalMatch(label->text()); it.hasNext();)
+                colours << QColor(it.next().captured(1));
         }
         return colours;
     }
@@ -126,8 +124,8 @@ private Q_SLOTS:
         QTEST(shieldColour(view.browserRow()), "shield");
         QCOMPARE(view.width(), MenuBarView::panelWidth);
         QCOMPARE(view.browserRow()->y(), MenuBarView::verticalMargin);
-        QVERIFY(
-            saveScreenshot(&view, u"panel-" + QString(QTest::currentDataTag()).replace(", ", "-")));
+        QVERIFY(PageChecks::saveScreenshot(
+            view, u"panel-" + QString(QTest::currentDataTag()).replace(", ", "-")));
     }
 
     void aRowWithoutCurrentDefaultOrTarget()
@@ -163,9 +161,27 @@ private Q_SLOTS:
         QCOMPARE(QAccessible::queryAccessibleInterface(view.commandRows().first())
                      ->text(QAccessible::Name),
                  QString("Einstellungen Ctrl+,"));
-        QVERIFY(saveScreenshot(&view, QStringLiteral("panel-de")));
+        QVERIFY(PageChecks::saveScreenshot(view, QStringLiteral("panel-de")));
         view.setPalette(QPalette(QColor(0x3a, 0x3a, 0x3a), QColor(0x1e, 0x1e, 0x1e)));
-        QVERIFY(saveScreenshot(&view, QStringLiteral("panel-de-dark")));
+        QVERIFY(PageChecks::saveScreenshot(view, QStringLiteral("panel-de-dark")));
+    }
+
+    void nothingIsCutInTheLanguageWithTheLongestTexts()
+    {
+        ShellWorld shell;
+        shell.setBrowser(Mode::notProtectedMismatch);
+        shell.setEmail(Mode::mismatch);
+        const AppLanguage longest = PageChecks::longestLanguage(
+            {"status_default_browser", "status_default_email", "status_should_be %@",
+             "status_not_protected", "status_mismatch", "menu_settings", "feedback_title",
+             "menu_about", "menu_quit"});
+        shell.switchLanguage(longest);
+        MenuBarView view(shell.env);
+        view.show();
+        QVERIFY(PageChecks::saveScreenshot(view, u"panel-longest-" + longest.code()));
+        const QStringList clipped = PageChecks::clippedTexts(view);
+        QVERIFY2(clipped.isEmpty(), qPrintable(clipped.join(u" | ")));
+        QCOMPARE(view.width(), MenuBarView::panelWidth);
     }
 
     void rowsLeadToTheirPlaces()
