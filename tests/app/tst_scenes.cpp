@@ -64,6 +64,20 @@ private Q_SLOTS:
         QCOMPARE(rig.shell.openedWindows, QStringList());
     }
 
+    void closingAWindowStopsNothingElse()
+    {
+        Rig rig;
+        rig.scenes.openWindow(QStringLiteral("settings"));
+        SceneWindow *settings = rig.settings();
+        QVERIFY(settings->close());
+        QTRY_VERIFY(!settings->root());
+        // Both guards keep watching.
+        QCOMPARE(rig.shell.world.timers.activeWithInterval(GuardWorld::tenMinutes).size(), 2);
+        rig.scenes.openWindow(QStringLiteral("settings"));
+        QCOMPARE(rig.settings(), settings);
+        QVERIFY(rig.view());
+    }
+
     void theCommandsGoThroughTheUrls()
     {
         Rig rig;
