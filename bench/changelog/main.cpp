@@ -4,6 +4,7 @@
 #include "core/changelog/ChangeLogCodec.h"
 #include "core/changelog/LogManager.h"
 #include "core/settings/SettingsStore.h"
+#include "core/settings/SettingsTable.h"
 #include "core/support/Console.h"
 #include "core/support/SystemClock.h"
 
@@ -48,7 +49,7 @@ int main(int argc, char **argv)
     const qsizetype count = log.getAllLogs().size();
     const double readMicros = static_cast<double>(read.nsecsElapsed()) / 1000.0;
 
-    const QByteArray blob = *store.dataValue(QLatin1StringView(LogManager::logsKey));
+    const QByteArray blob = *store.value(SettingsTable::changeLog);
     QElapsedTimer codec;
     codec.start();
     const auto decoded = ChangeLogCodec::decode(blob);

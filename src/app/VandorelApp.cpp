@@ -6,6 +6,7 @@
 #include "core/guard/BrowserManager.h"
 #include "core/guard/EmailClientManager.h"
 #include "core/i18n/LanguageManager.h"
+#include "core/settings/SettingsMigration.h"
 #include "core/settings/SettingsStore.h"
 #include "core/support/Console.h"
 #include "core/support/SystemClock.h"
@@ -31,6 +32,7 @@
 VandorelApp::VandorelApp(const Options &options)
 {
     ensureSingleInstance(options.url);
+    SettingsMigration::run(SettingsStore::standard());
     startAnalytics();
     // Events wait in the queue until a window of ours first becomes active.
     connect(qGuiApp, &QGuiApplication::applicationStateChanged, this,

@@ -2,6 +2,7 @@
 
 #include "core/changelog/ChangeLogCodec.h"
 #include "core/settings/SettingsStore.h"
+#include "core/settings/SettingsTable.h"
 #include "core/support/Console.h"
 #include "core/support/SystemClock.h"
 
@@ -52,7 +53,7 @@ void LogManager::logChange(ChangeLogType type, const QString &message)
 
 QList<ChangeLogEntry> LogManager::getAllLogs() const
 {
-    const auto bytes = m_store.dataValue(QLatin1StringView(logsKey));
+    const auto bytes = m_store.value(SettingsTable::changeLog);
     if (!bytes)
         return {};
     const auto entries = ChangeLogCodec::decode(*bytes);
@@ -75,7 +76,7 @@ QList<ChangeLogEntry> LogManager::getAllLogs() const
 
 void LogManager::clearAllLogs()
 {
-    m_store.remove(QLatin1StringView(logsKey));
+    m_store.remove(SettingsTable::changeLog);
     Console::line(QStringLiteral("🗑️ All logs cleared"));
 }
 
@@ -87,5 +88,5 @@ void LogManager::addLog(const ChangeLogEntry &entry)
     if (entries.size() > maxLogs)
         entries.resize(maxLogs);
     if (const auto bytes = ChangeLogCodec::encode(entries))
-        m_store.setData(QLatin1StringView(logsKey), *bytes);
+        m_store.set(SettingsTable::changeLog, *bytes);
 }

@@ -9,11 +9,10 @@ class Clock;
 class SettingsStore;
 
 // The change log: at most 1000 records, newest first, kept as one JSON blob under
-// "VandorelLogs" in the settings store. Nothing is held in memory: every operation
+// SettingsTable::changeLog in the settings store. Nothing is held in memory: every operation
 // starts from the store, so a reader always reads again.
 class LogManager {
 public:
-    static constexpr char logsKey[] = "VandorelLogs";
     static constexpr qsizetype maxLogs = 1000;
 
     LogManager(SettingsStore &store, const Clock &clock);

@@ -6,16 +6,7 @@ GuardProfile makeBrowserProfile()
 {
     GuardProfile p;
     p.role = GuardProfile::Role::browser;
-    p.targetKey = QStringLiteral("targetDefaultBrowser");
-    p.monitoringEnabledKey = QStringLiteral("monitoringEnabled");
-    p.checkIntervalKey = QStringLiteral("checkInterval");
-    p.snoozeDurationKey = QStringLiteral("snoozeDuration");
-    p.checkOnWakeKey = QStringLiteral("checkOnWake");
-    p.checkOnUnlockKey = QStringLiteral("checkOnUnlock");
-    p.checkOnLoginKey = QStringLiteral("checkOnLogin");
-    p.changeCountKey = QStringLiteral("browserChangeCount");
-    p.lastChangeKey = QStringLiteral("lastBrowserChange");
-    p.launchedBeforeKey = QStringLiteral("hasLaunchedBefore");
+    p.keys = SettingsTable::browserGuard;
 
     p.resolution = GuardProfile::Resolution::FirstOfSchemeLists;
     p.resolutionSchemes = {QStringLiteral("https"), QStringLiteral("http")};
@@ -82,16 +73,7 @@ GuardProfile makeEmailProfile()
 {
     GuardProfile p;
     p.role = GuardProfile::Role::email;
-    p.targetKey = QStringLiteral("targetDefaultEmailClient");
-    p.monitoringEnabledKey = QStringLiteral("emailMonitoringEnabled");
-    p.checkIntervalKey = QStringLiteral("emailCheckInterval");
-    p.snoozeDurationKey = QStringLiteral("emailSnoozeDuration");
-    p.checkOnWakeKey = QStringLiteral("emailCheckOnWake");
-    p.checkOnUnlockKey = QStringLiteral("emailCheckOnUnlock");
-    p.checkOnLoginKey = QStringLiteral("emailCheckOnLogin");
-    p.changeCountKey = QStringLiteral("emailChangeCount");
-    p.lastChangeKey = QStringLiteral("lastEmailChange");
-    p.launchedBeforeKey = QStringLiteral("hasLaunchedBeforeEmail");
+    p.keys = SettingsTable::emailGuard;
 
     p.resolution = GuardProfile::Resolution::SchemeDefault;
     p.resolutionSchemes = {QStringLiteral("mailto")};

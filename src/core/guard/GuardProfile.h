@@ -1,5 +1,7 @@
 #pragma once
 
+#include "core/settings/SettingsTable.h"
+
 #include <QString>
 #include <QStringList>
 
@@ -16,17 +18,7 @@ struct GuardProfile {
 
     Role role;
 
-    // Settings-store keys.
-    QString targetKey;
-    QString monitoringEnabledKey;
-    QString checkIntervalKey;
-    QString snoozeDurationKey;
-    QString checkOnWakeKey;
-    QString checkOnUnlockKey;
-    QString checkOnLoginKey;
-    QString changeCountKey;
-    QString lastChangeKey;
-    QString launchedBeforeKey;
+    SettingsTable::GuardKeys keys;
 
     // Resolving the current default and setting a new one.
     Resolution resolution;

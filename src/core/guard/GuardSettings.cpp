@@ -2,14 +2,27 @@
 
 #include "core/settings/SettingsStore.h"
 
+namespace {
+
+// An enumeration stored by its raw value: text that is no raw value reads as the key's
+// read default, and stays stored.
+template <typename Enumeration>
+Enumeration decoded(const SettingsStore &store, const TextKey &key)
+{
+    const auto stored = Enumeration::fromRawValue(store.value(key).value_or(QString()));
+    return stored.value_or(*Enumeration::fromRawValue(QLatin1StringView(key.readDefault)));
+}
+
+} // namespace
+
 GuardSettings::GuardSettings(const GuardProfile &profile, SettingsStore &store)
-    : m_profile(profile), m_store(store)
+    : m_keys(profile.keys), m_store(store)
 {
 }
 
 std::optional<HandlerRecord> GuardSettings::target() const
 {
-    const auto bytes = m_store.dataValue(m_profile.targetKey);
+    const auto bytes = m_store.value(m_keys.target);
     if (!bytes)
         return std::nullopt;
     return HandlerRecord::fromJson(*bytes);
@@ -18,97 +31,93 @@ std::optional<HandlerRecord> GuardSettings::target() const
 bool GuardSettings::setTarget(const std::optional<HandlerRecord> &record)
 {
     if (!record) {
-        m_store.remove(m_profile.targetKey);
+        m_store.remove(m_keys.target);
         return false;
     }
-    m_store.setData(m_profile.targetKey, record->toJson());
+    m_store.set(m_keys.target, record->toJson());
     return true;
 }
 
 bool GuardSettings::monitoringEnabled() const
 {
-    return m_store.boolValue(m_profile.monitoringEnabledKey);
+    return m_store.value(m_keys.monitoringEnabled);
 }
 void GuardSettings::setMonitoringEnabled(bool enabled)
 {
-    m_store.setBool(m_profile.monitoringEnabledKey, enabled);
+    m_store.set(m_keys.monitoringEnabled, enabled);
 }
 
 CheckInterval GuardSettings::checkInterval() const
 {
-    const auto raw = m_store.stringValue(m_profile.checkIntervalKey);
-    return CheckInterval::fromRawValue(raw.value_or(QString())).value_or(CheckInterval::tenMinutes);
+    return decoded<CheckInterval>(m_store, m_keys.checkInterval);
 }
-
 void GuardSettings::setCheckInterval(CheckInterval interval)
 {
-    m_store.setString(m_profile.checkIntervalKey, interval.rawValue());
+    m_store.set(m_keys.checkInterval, interval.rawValue());
 }
 
 SnoozeDuration GuardSettings::snoozeDuration() const
 {
-    const auto raw = m_store.stringValue(m_profile.snoozeDurationKey);
-    return SnoozeDuration::fromRawValue(raw.value_or(QString())).value_or(SnoozeDuration::oneHour);
+    return decoded<SnoozeDuration>(m_store, m_keys.snoozeDuration);
 }
-
 void GuardSettings::setSnoozeDuration(SnoozeDuration duration)
 {
-    m_store.setString(m_profile.snoozeDurationKey, duration.rawValue());
+    m_store.set(m_keys.snoozeDuration, duration.rawValue());
 }
 
 bool GuardSettings::checkOnWake() const
 {
-    return m_store.boolValue(m_profile.checkOnWakeKey);
+    return m_store.value(m_keys.checkOnWake);
 }
 void GuardSettings::setCheckOnWake(bool on)
 {
-    m_store.setBool(m_profile.checkOnWakeKey, on);
+    m_store.set(m_keys.checkOnWake, on);
 }
 bool GuardSettings::checkOnUnlock() const
 {
-    return m_store.boolValue(m_profile.checkOnUnlockKey);
+    return m_store.value(m_keys.checkOnUnlock);
 }
 void GuardSettings::setCheckOnUnlock(bool on)
 {
-    m_store.setBool(m_profile.checkOnUnlockKey, on);
+    m_store.set(m_keys.checkOnUnlock, on);
 }
 bool GuardSettings::checkOnLogin() const
 {
-    return m_store.boolValue(m_profile.checkOnLoginKey);
+    return m_store.value(m_keys.checkOnLogin);
 }
 void GuardSettings::setCheckOnLogin(bool on)
 {
-    m_store.setBool(m_profile.checkOnLoginKey, on);
+    m_store.set(m_keys.checkOnLogin, on);
 }
 qint64 GuardSettings::changeCount() const
 {
-    return m_store.integerValue(m_profile.changeCountKey);
+    return m_store.value(m_keys.changeCount);
 }
 void GuardSettings::setChangeCount(qint64 count)
 {
-    m_store.setInteger(m_profile.changeCountKey, count);
+    m_store.set(m_keys.changeCount, count);
 }
 
 std::optional<QDateTime> GuardSettings::lastChange() const
 {
-    return m_store.dateValue(m_profile.lastChangeKey);
+    return m_store.value(m_keys.lastChange);
 }
 
 void GuardSettings::setLastChange(const std::optional<QDateTime> &when)
 {
     if (when)
-        m_store.setDate(m_profile.lastChangeKey, *when);
+        m_store.set(m_keys.lastChange, *when);
     else
-        m_store.remove(m_profile.lastChangeKey);
+        m_store.remove(m_keys.lastChange);
 }
 
 bool GuardSettings::hasLaunchedBefore() const
 {
-    return m_store.boolValue(m_profile.launchedBeforeKey);
+    return m_store.value(m_keys.launchedBefore);
 }
 void GuardSettings::markLaunched()
 {
-    m_store.setBool(m_profile.launchedBeforeKey, true);
+    m_store.set(m_keys.launchedBefore, *m_keys.launchedBefore.firstLaunch);
 }
 
 bool GuardSettings::isProtected() const

@@ -46,6 +46,6 @@ public:
     bool isProtected() const;
 
 private:
-    const GuardProfile &m_profile;
+    const SettingsTable::GuardKeys &m_keys;
     SettingsStore &m_store;
 };

@@ -54,12 +54,7 @@ void HandlerGuard::setDefaultsIfNeeded()
 {
     if (m_settings.hasLaunchedBefore())
         return;
-    setMonitoringEnabled(true);
-    setCheckInterval(CheckInterval::tenMinutes);
-    setSnoozeDuration(SnoozeDuration::oneHour);
-    setCheckOnWake(true);
-    setCheckOnUnlock(true);
-    setCheckOnLogin(true);
+    writeFirstLaunchValues();
     m_settings.markLaunched();
     Console::line(m_profile.firstLaunchLine);
 }
@@ -159,14 +154,23 @@ void HandlerGuard::resetCounters()
     Console::line(m_profile.countersResetLine);
 }
 
+// Through the setters, with all their effects: telemetry, and monitoring started twice.
+void HandlerGuard::writeFirstLaunchValues()
+{
+    const SettingsTable::GuardKeys &keys = m_profile.keys;
+    setMonitoringEnabled(*keys.monitoringEnabled.firstLaunch);
+    setCheckInterval(
+        *CheckInterval::fromRawValue(QLatin1StringView(keys.checkInterval.firstLaunch)));
+    setSnoozeDuration(
+        *SnoozeDuration::fromRawValue(QLatin1StringView(keys.snoozeDuration.firstLaunch)));
+    setCheckOnWake(*keys.checkOnWake.firstLaunch);
+    setCheckOnUnlock(*keys.checkOnUnlock.firstLaunch);
+    setCheckOnLogin(*keys.checkOnLogin.firstLaunch);
+}
+
 void HandlerGuard::resetToDefaults()
 {
-    setMonitoringEnabled(true);
-    setCheckInterval(CheckInterval::tenMinutes);
-    setSnoozeDuration(SnoozeDuration::oneHour);
-    setCheckOnWake(true);
-    setCheckOnUnlock(true);
-    setCheckOnLogin(true);
+    writeFirstLaunchValues();
     resetSnooze();
     resetCounters();
 }

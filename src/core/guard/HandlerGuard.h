@@ -83,6 +83,7 @@ Q_SIGNALS:
 
 private:
     void setDefaultsIfNeeded();
+    void writeFirstLaunchValues();
     void detectInstalled();
     void setupSystemEventObservers();
     void handleSystemEvent(const QString &type);

@@ -1,6 +1,7 @@
 #include "core/i18n/LanguageManager.h"
 
 #include "core/settings/SettingsStore.h"
+#include "core/settings/SettingsTable.h"
 #include "core/support/Console.h"
 #include "core/support/TextFormat.h"
 #include "foundation/QtTimerFactory.h"
@@ -14,7 +15,6 @@
 
 namespace {
 
-const QString languageKey = QStringLiteral("app_language");
 constexpr char tableContext[] = "Localizable";
 constexpr std::chrono::milliseconds bundleSwapDelay{50};
 
@@ -84,8 +84,8 @@ LanguageManager::LanguageManager(SettingsStore &settings, TimerFactory &timers,
     : QObject(parent), m_settings(settings), m_timers(timers),
       m_preferredLanguages(preferredLanguages)
 {
-    const QString startCode =
-        m_settings.stringValue(languageKey).value_or(systemLanguageCode(preferredLanguages));
+    const QString startCode = m_settings.value(SettingsTable::appLanguage)
+                                  .value_or(systemLanguageCode(preferredLanguages));
     m_currentLanguage = AppLanguage::fromRawValue(startCode).value_or(AppLanguage::english);
     // The table of the start code itself: for a code outside the ten that is the main
     // table, while the selection reads English.
@@ -130,7 +130,7 @@ const QTranslator *LanguageManager::bundleForLanguage(const QString &code)
 void LanguageManager::setCurrentLanguage(AppLanguage language)
 {
     m_currentLanguage = language;
-    m_settings.setString(languageKey, language.code());
+    m_settings.set(SettingsTable::appLanguage, language.code());
     Q_EMIT currentLanguageChanged();
     m_timers.singleShot(bundleSwapDelay, this, [this] { swapBundle(); });
 }

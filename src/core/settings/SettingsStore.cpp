@@ -188,3 +188,57 @@ void SettingsStore::write(const QString &key, const QVariant &value)
     m_settings.sync();
     Q_EMIT changed(key);
 }
+
+bool SettingsStore::value(const BoolKey &key) const
+{
+    return contains(key) ? boolValue(key.key()) : key.readDefault;
+}
+qint64 SettingsStore::value(const IntegerKey &key) const
+{
+    return contains(key) ? integerValue(key.key()) : key.readDefault;
+}
+double SettingsStore::value(const RealKey &key) const
+{
+    return contains(key) ? doubleValue(key.key()) : key.readDefault;
+}
+std::optional<QString> SettingsStore::value(const TextKey &key) const
+{
+    if (auto stored = stringValue(key.key()))
+        return stored;
+    if (key.readDefault)
+        return QString::fromLatin1(key.readDefault);
+    return std::nullopt;
+}
+std::optional<QByteArray> SettingsStore::value(const DataKey &key) const
+{
+    return dataValue(key.key());
+}
+std::optional<QDateTime> SettingsStore::value(const DateKey &key) const
+{
+    return dateValue(key.key());
+}
+
+void SettingsStore::set(const BoolKey &key, bool value)
+{
+    setBool(key.key(), value);
+}
+void SettingsStore::set(const IntegerKey &key, qint64 value)
+{
+    setInteger(key.key(), value);
+}
+void SettingsStore::set(const RealKey &key, double value)
+{
+    setDouble(key.key(), value);
+}
+void SettingsStore::set(const TextKey &key, const QString &value)
+{
+    setString(key.key(), value);
+}
+void SettingsStore::set(const DataKey &key, const QByteArray &value)
+{
+    setData(key.key(), value);
+}
+void SettingsStore::set(const DateKey &key, const QDateTime &value)
+{
+    setDate(key.key(), value);
+}

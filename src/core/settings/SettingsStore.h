@@ -1,5 +1,7 @@
 #pragma once
 
+#include "core/settings/SettingKey.h"
+
 #include <QByteArray>
 #include <QDateTime>
 #include <QObject>
@@ -45,6 +47,27 @@ public:
     void setData(const QString &key, const QByteArray &value);
     void setDate(const QString &key, const QDateTime &value);
     void remove(const QString &key);
+
+    // The same by a key of SettingsTable. An absent key reads as the key's read default, and
+    // so does a text key that holds no text; otherwise a key reads as above.
+    bool value(const BoolKey &key) const;
+    qint64 value(const IntegerKey &key) const;
+    double value(const RealKey &key) const;
+    std::optional<QString> value(const TextKey &key) const;
+    std::optional<QByteArray> value(const DataKey &key) const;
+    std::optional<QDateTime> value(const DateKey &key) const;
+    void set(const BoolKey &key, bool value);
+    void set(const IntegerKey &key, qint64 value);
+    void set(const RealKey &key, double value);
+    void set(const TextKey &key, const QString &value);
+    void set(const DataKey &key, const QByteArray &value);
+    void set(const DateKey &key, const QDateTime &value);
+    template <typename Key>
+    requires requires { Key::type; }
+    bool contains(const Key &key) const { return contains(QString(key.key())); }
+    template <typename Key>
+    requires requires { Key::type; }
+    void remove(const Key &key) { remove(QString(key.key())); }
 
 Q_SIGNALS:
     void changed(const QString &key);

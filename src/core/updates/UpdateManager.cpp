@@ -1,6 +1,7 @@
 #include "core/updates/UpdateManager.h"
 
 #include "core/settings/SettingsStore.h"
+#include "core/settings/SettingsTable.h"
 #include "core/support/AppInfo.h"
 #include "core/support/Clock.h"
 #include "core/support/Console.h"
@@ -31,11 +32,6 @@ UpdateManager *&sharedSlot()
 }
 
 const QStringList brewCaskTokens = {QStringLiteral("vandorel"), QStringLiteral("van-dorel")};
-
-QString key(const char *name)
-{
-    return QString::fromLatin1(name);
-}
 
 } // namespace
 
@@ -180,17 +176,17 @@ double UpdateManager::nowSeconds() const
 
 void UpdateManager::snoozeAutoReminder(const QString &version, double hours)
 {
-    m_options.settings->setDouble(key(updateSnoozeUntilKey), nowSeconds() + hours * 3600.0);
-    m_options.settings->setString(key(updateSnoozeVersionKey), version);
+    m_options.settings->set(SettingsTable::updateSnoozeUntil, nowSeconds() + hours * 3600.0);
+    m_options.settings->set(SettingsTable::updateSnoozeVersion, version);
 }
 
 bool UpdateManager::isSnoozed(const QString &version) const
 {
     const std::optional<QString> snoozedVersion =
-        m_options.settings->stringValue(key(updateSnoozeVersionKey));
+        m_options.settings->value(SettingsTable::updateSnoozeVersion);
     if (!snoozedVersion || *snoozedVersion != version)
         return false;
-    const double until = m_options.settings->doubleValue(key(updateSnoozeUntilKey));
+    const double until = m_options.settings->value(SettingsTable::updateSnoozeUntil);
     if (!(until > 0))
         return false;
     return nowSeconds() < until;
@@ -200,14 +196,14 @@ std::optional<double> UpdateManager::remainingSnoozeSeconds(const QString &versi
 {
     if (!isSnoozed(version))
         return std::nullopt;
-    const double until = m_options.settings->doubleValue(key(updateSnoozeUntilKey));
+    const double until = m_options.settings->value(SettingsTable::updateSnoozeUntil);
     return std::max(0.0, until - nowSeconds());
 }
 
 void UpdateManager::resetAutoReminderSnooze()
 {
-    m_options.settings->remove(key(updateSnoozeUntilKey));
-    m_options.settings->remove(key(updateSnoozeVersionKey));
+    m_options.settings->remove(SettingsTable::updateSnoozeUntil);
+    m_options.settings->remove(SettingsTable::updateSnoozeVersion);
     Console::line(QStringLiteral("🔄 Update reminder snooze reset"));
 }
 

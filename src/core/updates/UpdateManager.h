@@ -62,8 +62,6 @@ public:
         std::optional<QString> version;
     };
 
-    static constexpr const char *updateSnoozeUntilKey = "updateSnoozeUntil";
-    static constexpr const char *updateSnoozeVersionKey = "updateSnoozeVersion";
     static constexpr double autoReminderSnoozeHours = 4.0;
     static constexpr int sparkleResetSeconds = 8;
 

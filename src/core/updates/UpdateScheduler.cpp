@@ -1,16 +1,12 @@
 #include "core/updates/UpdateScheduler.h"
 
 #include "core/settings/SettingsStore.h"
+#include "core/settings/SettingsTable.h"
 #include "core/support/Console.h"
 #include "core/updates/UpdateCheckInterval.h"
 #include "foundation/TimerFactory.h"
 
 namespace {
-
-QString key(const char *name)
-{
-    return QString::fromLatin1(name);
-}
 
 QString boolText(bool value)
 {
@@ -28,12 +24,10 @@ UpdateScheduler::UpdateScheduler(SettingsStore &settings, TimerFactory &timers,
 
 UpdateScheduler::Config UpdateScheduler::currentSchedulerConfig() const
 {
-    // A plain read would give false for an absent key, and the default is on.
-    const QString startupKey = key(checkForUpdatesAtStartupKey);
+    // An absent startup switch reads as on; the interval's text is not checked here.
     Config config;
-    config.checkAtStartup = !m_settings.contains(startupKey) || m_settings.boolValue(startupKey);
-    config.intervalRaw =
-        m_settings.stringValue(key(updateCheckIntervalKey)).value_or(QStringLiteral("daily"));
+    config.checkAtStartup = m_settings.value(SettingsTable::checkForUpdatesAtStartup);
+    config.intervalRaw = *m_settings.value(SettingsTable::updateCheckInterval);
     return config;
 }
 

@@ -25,8 +25,6 @@ public:
         friend bool operator==(const Config &, const Config &) = default;
     };
 
-    static constexpr const char *checkForUpdatesAtStartupKey = "checkForUpdatesAtStartup";
-    static constexpr const char *updateCheckIntervalKey = "updateCheckInterval";
     static constexpr std::chrono::seconds startupCheckDelay{120};
 
     // `automaticCheck` runs at each firing.

@@ -5,13 +5,13 @@
 #include "core/guard/EmailClientManager.h"
 #include "core/i18n/LanguageManager.h"
 #include "core/settings/SettingsStore.h"
+#include "core/settings/SettingsTable.h"
 #include "core/support/AppInfo.h"
 #include "core/support/Console.h"
 #include "core/telemetry/Telemetry.h"
 #include "core/updates/AppcastUpdaterController.h"
 #include "core/updates/UpdateCheckInterval.h"
 #include "core/updates/UpdateManager.h"
-#include "core/updates/UpdateScheduler.h"
 #include "core/updates/UpdateSheetPresenter.h"
 #include "foundation/TimerFactory.h"
 #include "platform/LoginItem.h"
@@ -107,10 +107,10 @@ GeneralSettingsView::GeneralSettingsView(const Services &services, QWidget *pare
     layout->setContentsMargins(0, 0, 0, 0);
     layout->addWidget(scroll);
 
-    for (const char *key :
-         {showColoredMenuBarIconKey, appearanceModeKey,
-          UpdateScheduler::checkForUpdatesAtStartupKey, UpdateScheduler::updateCheckIntervalKey})
-        showStoredValue(QLatin1String(key));
+    for (const QLatin1StringView key :
+         {SettingsTable::showColoredMenuBarIcon.key(), SettingsTable::appearanceMode.key(),
+          SettingsTable::checkForUpdatesAtStartup.key(), SettingsTable::updateCheckInterval.key()})
+        showStoredValue(key);
     showLanguage();
     retranslate();
     connectControls();
@@ -253,7 +253,7 @@ void GeneralSettingsView::connectControls()
         track(QStringLiteral("language"), AppLanguage::allCases().at(index).rawValue());
     });
     connect(m_coloredIcon, &ToggleSwitch::toggled, this, [this](bool on) {
-        m_services.settings->setBool(QLatin1String(showColoredMenuBarIconKey), on);
+        m_services.settings->set(SettingsTable::showColoredMenuBarIcon, on);
         track(QStringLiteral("colored_menu_bar_icon"), on);
     });
     connect(m_launchAtLogin, &ToggleSwitch::toggled, this, [this](bool on) {
@@ -263,8 +263,8 @@ void GeneralSettingsView::connectControls()
 
     connect(m_checkButton, &RowButton::clicked, this, &GeneralSettingsView::checkForUpdates);
     connect(m_interval, &QComboBox::activated, this, [this](int index) {
-        m_services.settings->setString(QLatin1String(UpdateScheduler::updateCheckIntervalKey),
-                                       UpdateCheckInterval::allCases().at(index).rawValue());
+        m_services.settings->set(SettingsTable::updateCheckInterval,
+                                 UpdateCheckInterval::allCases().at(index).rawValue());
     });
     connect(m_interval, &QComboBox::currentIndexChanged, this, [this](int index) {
         if (index >= 0)
@@ -272,8 +272,7 @@ void GeneralSettingsView::connectControls()
                   UpdateCheckInterval::allCases().at(index).rawValue());
     });
     connect(m_checkAtStartup, &ToggleSwitch::toggled, this, [this](bool on) {
-        m_services.settings->setBool(QLatin1String(UpdateScheduler::checkForUpdatesAtStartupKey),
-                                     on);
+        m_services.settings->set(SettingsTable::checkForUpdatesAtStartup, on);
         track(QStringLiteral("check_updates_at_startup"), on);
     });
 
@@ -320,16 +319,16 @@ void GeneralSettingsView::connectControls()
 void GeneralSettingsView::showStoredValue(const QString &key)
 {
     const SettingsStore &settings = *m_services.settings;
-    if (key == QLatin1String(showColoredMenuBarIconKey)) {
-        m_coloredIcon->setChecked(settings.boolValue(key));
-    } else if (key == QLatin1String(appearanceModeKey)) {
-        const QString raw = settings.stringValue(key).value_or(QStringLiteral("system"));
+    if (key == SettingsTable::showColoredMenuBarIcon.key()) {
+        m_coloredIcon->setChecked(settings.value(SettingsTable::showColoredMenuBarIcon));
+    } else if (key == SettingsTable::appearanceMode.key()) {
+        const QString raw = *settings.value(SettingsTable::appearanceMode);
         m_appearance->setCurrentIndex(
             int(AppearanceMode::fromRawValue(raw).value_or(AppearanceMode::system)));
-    } else if (key == QLatin1String(UpdateScheduler::checkForUpdatesAtStartupKey)) {
-        m_checkAtStartup->setChecked(!settings.contains(key) || settings.boolValue(key));
-    } else if (key == QLatin1String(UpdateScheduler::updateCheckIntervalKey)) {
-        const QString raw = settings.stringValue(key).value_or(QStringLiteral("daily"));
+    } else if (key == SettingsTable::checkForUpdatesAtStartup.key()) {
+        m_checkAtStartup->setChecked(settings.value(SettingsTable::checkForUpdatesAtStartup));
+    } else if (key == SettingsTable::updateCheckInterval.key()) {
+        const QString raw = *settings.value(SettingsTable::updateCheckInterval);
         const auto interval = UpdateCheckInterval::fromRawValue(raw);
         m_interval->setCurrentIndex(interval ? int(UpdateCheckInterval::Value(*interval)) : -1);
     }
@@ -344,8 +343,7 @@ void GeneralSettingsView::showEvent(QShowEvent *event)
 {
     QWidget::showEvent(event);
     m_launchAtLogin->setChecked(m_services.loginItem->isEnabled());
-    const QString raw = m_services.settings->stringValue(QLatin1String(appearanceModeKey))
-                            .value_or(QStringLiteral("system"));
+    const QString raw = *m_services.settings->value(SettingsTable::appearanceMode);
     if (const auto mode = AppearanceMode::fromRawValue(raw))
         Appearance::applyAtNextTurn(*mode);
     m_services.telemetry->trackScreenView(QLatin1String(screenName));
@@ -354,7 +352,7 @@ void GeneralSettingsView::showEvent(QShowEvent *event)
 void GeneralSettingsView::appearanceChanged(int index)
 {
     const AppearanceMode mode = AppearanceMode::allCases().at(index);
-    m_services.settings->setString(QLatin1String(appearanceModeKey), mode.rawValue());
+    m_services.settings->set(SettingsTable::appearanceMode, mode.rawValue());
     Appearance::applyAtNextTurn(mode);
     track(QStringLiteral("appearance"), mode.rawValue());
 }
@@ -438,15 +436,14 @@ void GeneralSettingsView::resetAllSettings()
     SettingsStore &settings = *m_services.settings;
     resetGuard(*m_services.browserManager);
     resetGuard(*m_services.emailClientManager);
-    settings.setBool(QLatin1String(showColoredMenuBarIconKey), false);
+    settings.set(SettingsTable::showColoredMenuBarIcon, false);
     m_launchAtLogin->setChecked(true);
     setLaunchAtLogin(true);
-    settings.setString(QLatin1String(appearanceModeKey),
-                       AppearanceMode(AppearanceMode::system).rawValue());
+    settings.set(SettingsTable::appearanceMode, AppearanceMode(AppearanceMode::system).rawValue());
     Appearance::applyAtNextTurn(AppearanceMode::system);
-    settings.setBool(QLatin1String(UpdateScheduler::checkForUpdatesAtStartupKey), true);
-    settings.setString(QLatin1String(UpdateScheduler::updateCheckIntervalKey),
-                       UpdateCheckInterval(UpdateCheckInterval::daily).rawValue());
+    settings.set(SettingsTable::checkForUpdatesAtStartup, true);
+    settings.set(SettingsTable::updateCheckInterval,
+                 UpdateCheckInterval(UpdateCheckInterval::daily).rawValue());
     LanguageManager &language = *m_services.language;
     const QString code = LanguageManager::systemLanguageCode(language.preferredLanguages());
     language.setCurrentLanguage(AppLanguage::fromRawValue(code).value_or(AppLanguage::english));

@@ -47,8 +47,6 @@ public:
         LoginItem *loginItem = nullptr;
     };
 
-    static constexpr const char *showColoredMenuBarIconKey = "showColoredMenuBarIcon";
-    static constexpr const char *appearanceModeKey = "appearanceMode";
     static constexpr const char *screenName = "settings_general";
     static constexpr std::chrono::seconds updateButtonHold{2};
 

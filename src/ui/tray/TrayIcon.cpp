@@ -4,6 +4,7 @@
 #include "core/guard/EmailClientManager.h"
 #include "core/i18n/LanguageManager.h"
 #include "core/settings/SettingsStore.h"
+#include "core/settings/SettingsTable.h"
 #include "core/support/Console.h"
 #include "ui/tray/ShieldIcon.h"
 
@@ -21,7 +22,7 @@ TrayIcon::TrayIcon(BrowserManager &browserManager, EmailClientManager &emailClie
     connect(&language, &LanguageManager::currentLanguageChanged, this, &TrayIcon::update);
     connect(&language, &LanguageManager::bundleChanged, this, &TrayIcon::update);
     connect(&settings, &SettingsStore::changed, this, [this](const QString &key) {
-        if (key == QLatin1StringView(coloredIconKey))
+        if (key == SettingsTable::showColoredMenuBarIcon.key())
             update();
     });
     // The plain form is drawn in the palette's text colour.
@@ -71,7 +72,7 @@ QIcon TrayIcon::createMenuBarIcon() const
 
 bool TrayIcon::showColoredMenuBarIcon() const
 {
-    return m_settings.boolValue(QLatin1StringView(coloredIconKey));
+    return m_settings.value(SettingsTable::showColoredMenuBarIcon);
 }
 
 void TrayIcon::show()

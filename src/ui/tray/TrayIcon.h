@@ -20,8 +20,6 @@ class SettingsStore;
 class TrayIcon : public QObject {
     Q_OBJECT
 public:
-    static constexpr const char *coloredIconKey = "showColoredMenuBarIcon";
-
     TrayIcon(BrowserManager &browserManager, EmailClientManager &emailClientManager,
              LanguageManager &language, SettingsStore &settings, QObject *parent = nullptr);
 

@@ -1,4 +1,5 @@
 #include "core/i18n/LanguageManager.h"
+#include "core/settings/SettingsTable.h"
 #include "core/updates/UpdateManager.h"
 #include "core/updates/UpdateSheetPresenter.h"
 #include "core/updates/UpdaterController.h"
@@ -82,7 +83,7 @@ public:
 
     double snoozeUntil()
     {
-        return settings.store().doubleValue(UpdateManager::updateSnoozeUntilKey);
+        return settings.store().doubleValue(SettingsTable::updateSnoozeUntil.key());
     }
 
     TempSettings settings;
@@ -257,11 +258,11 @@ private Q_SLOTS:
         rig.runAutomaticCheck();
         QCOMPARE(rig.console.lines().last(),
                  u"ℹ️ Sparkle check skipped: session already in progress"_qs);
-        QVERIFY(!store.contains(UpdateManager::updateSnoozeUntilKey));
+        QVERIFY(!store.contains(SettingsTable::updateSnoozeUntil.key()));
         QCOMPARE(rig.calls.size(), 2);
 
         rig.timers.fire(8s);
-        store.setString(UpdateManager::updateSnoozeVersionKey, "2.0");
+        store.setString(SettingsTable::updateSnoozeVersion.key(), "2.0");
         rig.runAutomaticCheck(); // a version without an end is no snooze
         QCOMPARE(rig.calls.size(), 4);
         QCOMPARE(rig.console.lines().last(),
@@ -269,8 +270,8 @@ private Q_SLOTS:
         const QDateTime end = rig.clock.now().addSecs(4 * 3600);
         {
             SettingsStore fresh(rig.settings.path());
-            QCOMPARE(fresh.doubleValue(UpdateManager::updateSnoozeUntilKey), epochSeconds(end));
-            QCOMPARE(fresh.stringValue(UpdateManager::updateSnoozeVersionKey), u"2.0"_qs);
+            QCOMPARE(fresh.doubleValue(SettingsTable::updateSnoozeUntil.key()), epochSeconds(end));
+            QCOMPARE(fresh.stringValue(SettingsTable::updateSnoozeVersion.key()), u"2.0"_qs);
         }
 
         // Quiet about 2.0 until the end, telling the whole seconds left.
@@ -297,8 +298,8 @@ private Q_SLOTS:
         rig.timers.fire(8s);
         rig.manager->resetAutoReminderSnooze();
         QCOMPARE(rig.console.lines().last(), QStringLiteral("🔄 Update reminder snooze reset"));
-        QVERIFY(!store.contains(UpdateManager::updateSnoozeUntilKey)
-                && !store.contains(UpdateManager::updateSnoozeVersionKey));
+        QVERIFY(!store.contains(SettingsTable::updateSnoozeUntil.key())
+                && !store.contains(SettingsTable::updateSnoozeVersion.key()));
         rig.runAutomaticCheck();
         QCOMPARE(rig.calls.size(), 10);
     }

@@ -1,3 +1,4 @@
+#include "core/settings/SettingsTable.h"
 #include "core/updates/UpdateScheduler.h"
 
 #include "ConsoleCapture.h"
@@ -10,8 +11,8 @@ using namespace std::chrono_literals;
 
 namespace {
 
-const QString startupKey = QString::fromLatin1(UpdateScheduler::checkForUpdatesAtStartupKey);
-const QString intervalKey = QString::fromLatin1(UpdateScheduler::updateCheckIntervalKey);
+const QString startupKey = SettingsTable::checkForUpdatesAtStartup.key();
+const QString intervalKey = SettingsTable::updateCheckInterval.key();
 const QString reconfigure =
     QStringLiteral("⚙️ Update-related UserDefaults changed -> reconfigure update scheduler");
 const QString scheduling = QStringLiteral("🕒 Scheduling startup auto update check in 120 seconds");

@@ -1,6 +1,7 @@
 #include "core/guard/BrowserManager.h"
 #include "core/guard/EmailClientManager.h"
 #include "core/i18n/LanguageManager.h"
+#include "core/settings/SettingsTable.h"
 #include "core/support/AppInfo.h"
 #include "core/updates/UpdateCheckInterval.h"
 #include "core/updates/UpdateManager.h"
@@ -214,12 +215,12 @@ private Q_SLOTS:
             guard->snoozeMonitoring();
         }
         rig.log.logBrowserChange(QStringLiteral("Firefox"), QStringLiteral("Chromium"));
-        store.setDouble(UpdateManager::updateSnoozeUntilKey, 1e10);
-        store.setString(UpdateManager::updateSnoozeVersionKey, QStringLiteral("2.0"));
-        store.setBool(GeneralSettingsView::showColoredMenuBarIconKey, true);
-        store.setString(GeneralSettingsView::appearanceModeKey, QStringLiteral("dark"));
-        store.setBool(UpdateScheduler::checkForUpdatesAtStartupKey, false);
-        store.setString(UpdateScheduler::updateCheckIntervalKey, QStringLiteral("weekly"));
+        store.setDouble(SettingsTable::updateSnoozeUntil.key(), 1e10);
+        store.setString(SettingsTable::updateSnoozeVersion.key(), QStringLiteral("2.0"));
+        store.setBool(SettingsTable::showColoredMenuBarIcon.key(), true);
+        store.setString(SettingsTable::appearanceMode.key(), QStringLiteral("dark"));
+        store.setBool(SettingsTable::checkForUpdatesAtStartup.key(), false);
+        store.setString(SettingsTable::updateCheckInterval.key(), QStringLiteral("weekly"));
         rig.switchLanguage(AppLanguage::french);
         GeneralSettingsView &view = rig.show();
         rig.telemetry.take();
@@ -253,12 +254,12 @@ private Q_SLOTS:
         QCOMPARE(rig.email->targetDefaultEmailClient()->bundleIdentifier,
                  QStringLiteral("thunderbird"));
         QCOMPARE(rig.log.getAllLogs().size(), 1);
-        QCOMPARE(store.stringValue(UpdateManager::updateSnoozeVersionKey), QStringLiteral("2.0"));
-        QVERIFY(!store.boolValue(GeneralSettingsView::showColoredMenuBarIconKey));
-        QCOMPARE(store.stringValue(GeneralSettingsView::appearanceModeKey),
-                 QStringLiteral("system"));
-        QVERIFY(store.boolValue(UpdateScheduler::checkForUpdatesAtStartupKey));
-        QCOMPARE(store.stringValue(UpdateScheduler::updateCheckIntervalKey),
+        QCOMPARE(store.stringValue(SettingsTable::updateSnoozeVersion.key()),
+                 QStringLiteral("2.0"));
+        QVERIFY(!store.boolValue(SettingsTable::showColoredMenuBarIcon.key()));
+        QCOMPARE(store.stringValue(SettingsTable::appearanceMode.key()), QStringLiteral("system"));
+        QVERIFY(store.boolValue(SettingsTable::checkForUpdatesAtStartup.key()));
+        QCOMPARE(store.stringValue(SettingsTable::updateCheckInterval.key()),
                  QStringLiteral("daily"));
         QVERIFY(rig.loginItem.isEnabled());
         QCOMPARE(rig.language->currentLanguage(), AppLanguage::german);
@@ -303,8 +304,8 @@ private Q_SLOTS:
         rig.browser->setBrowserChangeCount(3);
         rig.email->setChangeCount(4);
         rig.log.logEmailChange(QStringLiteral("Thunderbird"), QStringLiteral("Evolution"));
-        store.setDouble(UpdateManager::updateSnoozeUntilKey, 1e10);
-        store.setString(UpdateManager::updateSnoozeVersionKey, QStringLiteral("2.0"));
+        store.setDouble(SettingsTable::updateSnoozeUntil.key(), 1e10);
+        store.setString(SettingsTable::updateSnoozeVersion.key(), QStringLiteral("2.0"));
         GeneralSettingsView &view = rig.show();
         rig.telemetry.take();
 
@@ -327,11 +328,12 @@ private Q_SLOTS:
         QVERIFY(rig.log.getAllLogs().isEmpty());
         QVERIFY(rig.console.contains(QStringLiteral("✅ All counters reset")));
         QVERIFY(rig.console.contains(QStringLiteral("✅ All logs deleted")));
-        QCOMPARE(store.stringValue(UpdateManager::updateSnoozeVersionKey), QStringLiteral("2.0"));
+        QCOMPARE(store.stringValue(SettingsTable::updateSnoozeVersion.key()),
+                 QStringLiteral("2.0"));
 
         // The reminder snooze goes at once, without a question.
         click(view.resetButton(GeneralSettingsView::Reset::updateReminderSnooze));
-        QVERIFY(!store.contains(UpdateManager::updateSnoozeVersionKey));
+        QVERIFY(!store.contains(SettingsTable::updateSnoozeVersion.key()));
         QCOMPARE(rig.alerts.shown().size(), 4);
         QCOMPARE(rig.reportedSettings(), (QStringList{"reset_counters=true", "delete_logs=true",
                                                       "reset_update_reminder_snooze=true"}));
@@ -342,8 +344,7 @@ private Q_SLOTS:
     void appliesTheAppearanceFromThisPageAtTheNextTurn()
     {
         Rig rig;
-        rig.settings.store().setString(GeneralSettingsView::appearanceModeKey,
-                                       QStringLiteral("dark"));
+        rig.settings.store().setString(SettingsTable::appearanceMode.key(), QStringLiteral("dark"));
         auto hidden = std::make_unique<GeneralSettingsView>(rig.services());
         PageChecks::settle();
         QVERIFY(!appliedDark());
@@ -356,12 +357,12 @@ private Q_SLOTS:
         QVERIFY(appliedDark());
         QCoreApplication::sendPostedEvents();
         QVERIFY(appliedLight());
-        QCOMPARE(rig.settings.store().stringValue(GeneralSettingsView::appearanceModeKey),
+        QCOMPARE(rig.settings.store().stringValue(SettingsTable::appearanceMode.key()),
                  QStringLiteral("light"));
         QCOMPARE(rig.reportedSettings(), QStringList{"appearance=light"});
 
         // An unknown stored look shows as system and is not applied.
-        rig.settings.store().setString(GeneralSettingsView::appearanceModeKey,
+        rig.settings.store().setString(SettingsTable::appearanceMode.key(),
                                        QStringLiteral("sepia"));
         view.hide();
         view.show();
@@ -482,7 +483,7 @@ private Q_SLOTS:
         choose(view.languagePicker(), int(AppLanguage::italian));
         QCOMPARE(rig.language->currentLanguage(), AppLanguage::italian);
         click(view.coloredIconSwitch());
-        QVERIFY(rig.settings.store().boolValue(GeneralSettingsView::showColoredMenuBarIconKey));
+        QVERIFY(rig.settings.store().boolValue(SettingsTable::showColoredMenuBarIcon.key()));
         QCOMPARE(rig.reportedSettings(),
                  (QStringList{"language=it", "colored_menu_bar_icon=true"}));
     }

@@ -1,5 +1,6 @@
 #include "core/changelog/LogManager.h"
 #include "core/i18n/LanguageManager.h"
+#include "core/settings/SettingsTable.h"
 #include "ui/Appearance.h"
 #include "ui/log/ChangeLogEntryRow.h"
 #include "ui/log/LogView.h"
@@ -263,7 +264,7 @@ private Q_SLOTS:
                                QStringLiteral("Evolution Mail and Calendar (Flatpak, user "
                                               "installation, development snapshot)"));
         rig.clock.advance(300);
-        const QByteArray records = *rig.settings.store().dataValue(LogManager::logsKey);
+        const QByteArray records = *rig.settings.store().dataValue(SettingsTable::changeLog.key());
         LogView &view = rig.show();
         const AppLanguage longest = PageChecks::longestLanguage(
             {"log_filter_all", "log_filter_browser", "log_filter_email", "log_refresh",
@@ -287,7 +288,7 @@ private Q_SLOTS:
                 rig.log.clearAllLogs();
                 view.refreshLogs();
                 QVERIFY(PageChecks::saveScreenshot(view, u"log_empty_" + suffix));
-                rig.settings.store().setData(LogManager::logsKey, records);
+                rig.settings.store().setData(SettingsTable::changeLog.key(), records);
                 view.refreshLogs();
             }
             Appearance::apply(AppearanceMode::system);

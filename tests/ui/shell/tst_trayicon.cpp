@@ -1,4 +1,5 @@
 #include "ShellWorld.h"
+#include "core/settings/SettingsTable.h"
 #include "ui/Colours.h"
 #include "ui/SymbolTable.h"
 #include "ui/tray/ShieldIcon.h"
@@ -131,7 +132,7 @@ private Q_SLOTS:
 
         // The coloured form at once, without a check.
         ConsoleCapture console;
-        settings.setBool(TrayIcon::coloredIconKey, true);
+        settings.setBool(SettingsTable::showColoredMenuBarIcon.key(), true);
         QCOMPARE(solidColour(tray.icon()), StateColour::green);
         QVERIFY(console.lines().isEmpty());
 
@@ -144,7 +145,7 @@ private Q_SLOTS:
         QVERIFY(tray.toolTip().startsWith(u"Vandorel\n"));
 
         // The plain form follows the palette.
-        settings.setBool(TrayIcon::coloredIconKey, false);
+        settings.setBool(SettingsTable::showColoredMenuBarIcon.key(), false);
         QPalette palette = QApplication::palette();
         palette.setColor(QPalette::WindowText, QColor(250, 250, 250));
         QApplication::setPalette(palette);
