@@ -76,8 +76,9 @@ class Shell:
         before = set(self.desktop.mapped_windows(self.program.pid))
         node = self.popups.catch(
             lambda: self.desktop.click_window(self.icon),
-            lambda n: accessible.find(n, "push button", prefix="Quit") is not None
-            or accessible.find(n, "push button", prefix="Beenden") is not None)
+            lambda n: any(accessible.role(b) == "push button"
+                          and accessible.name(b).endswith("Ctrl+Q")
+                          for b in accessible.walk(n)))
         window = wait_for(lambda: next(iter(set(self.desktop.mapped_windows(self.program.pid))
                                             - before), None), 20, "the panel's window")
         return node, window
@@ -210,6 +211,40 @@ class ShellTest(unittest.TestCase):
                          "Abweichung ・ Geschützt")
         shell.panel_shot("e2e-panel-de-mismatch", panel_window)
         accessible.press(shell.row(panel, "Beenden"))
+        self.assertEqual(program.wait_for_exit(), 0)
+        shell.popups.close()
+
+    def test_3_every_tab_by_name_in_japanese(self):
+        d = self.desktop
+        d.defaults({"x-scheme-handler/https": "firefox-esr", "x-scheme-handler/http": "firefox-esr",
+                    "x-scheme-handler/mailto": "thunderbird"})
+        # The browser guard switched off, the mail guard on its first start.
+        d.settings("[General]\napp_language=ja\nhasLaunchedBefore=true\nmonitoringEnabled=false\n")
+        program = d.start_program(BINARY)
+        self.addCleanup(program.stop)
+        shell = Shell(d, program)
+        panel, panel_window = shell.open_panel()
+        names = [accessible.name(n) for n in accessible.walk(panel)
+                 if accessible.role(n) == "push button"]
+        self.assertEqual(names, ["既定のブラウザ: Firefox ESR — 保護なし",
+                                 "既定のメールクライアント: Thunderbird — 保護中",
+                                 "設定 Ctrl+,", "フィードバックを送信", "バージョン情報",
+                                 "終了 Ctrl+Q"])
+        shell.panel_shot("e2e-panel-ja", panel_window)
+
+        # The settings row opens the general page; every tab is reached by its name.
+        accessible.press(shell.row(panel, "設定"))
+        settings = accessible.window(shell.app, "Vandorel の設定")
+        wait_for(lambda: shell.selected_tab(settings) == "一般", 20, "the general tab")
+        for raw, title in [("browser", "ブラウザ"), ("email", "メール"), ("log", "履歴"),
+                           ("feedback", "フィードバック"), ("general", "一般")]:
+            accessible.press(accessible.find(settings, "page tab", title))
+            wait_for(lambda: shell.selected_tab(settings) == title, 20, "the tab " + title)
+            shell.shot("e2e-settings-ja-" + raw, accessible.extents(settings))
+        self.assertEqual(len(accessible.windows_named(shell.app, "Vandorel の設定")), 1)
+
+        panel, _ = shell.open_panel()
+        accessible.press(shell.row(panel, "終了"))
         self.assertEqual(program.wait_for_exit(), 0)
         shell.popups.close()
 
