@@ -236,11 +236,17 @@ class ShellTest(unittest.TestCase):
         accessible.press(shell.row(panel, "設定"))
         settings = accessible.window(shell.app, "Vandorel の設定")
         wait_for(lambda: shell.selected_tab(settings) == "一般", 20, "the general tab")
+        active = accessible.Atspi.StateType.ACTIVE
+        wait_for(lambda: accessible.has_state(settings, active), 20, "the settings window")
+        place = accessible.extents(settings)
         for raw, title in [("browser", "ブラウザ"), ("email", "メール"), ("log", "履歴"),
                            ("feedback", "フィードバック"), ("general", "一般")]:
             accessible.press(accessible.find(settings, "page tab", title))
             wait_for(lambda: shell.selected_tab(settings) == title, 20, "the tab " + title)
-            shell.shot("e2e-settings-ja-" + raw, accessible.extents(settings))
+            # The window stays where it is, as large as it was, and keeps the focus.
+            self.assertEqual(accessible.extents(settings), place)
+            self.assertTrue(accessible.has_state(settings, active))
+            shell.shot("e2e-settings-ja-" + raw, place)
         self.assertEqual(len(accessible.windows_named(shell.app, "Vandorel の設定")), 1)
 
         panel, _ = shell.open_panel()

@@ -1,4 +1,5 @@
 #include "ShellWorld.h"
+#include "ui/Appearance.h"
 #include "ui/Colours.h"
 #include "ui/panel/MenuBarView.h"
 #include "ui/panel/PanelMenu.h"
@@ -162,7 +163,7 @@ private Q_SLOTS:
                      ->text(QAccessible::Name),
                  QString("Einstellungen Ctrl+,"));
         QVERIFY(PageChecks::saveScreenshot(view, QStringLiteral("panel-de")));
-        view.setPalette(QPalette(QColor(0x3a, 0x3a, 0x3a), QColor(0x1e, 0x1e, 0x1e)));
+        view.setPalette(Appearance::darkPalette());
         QVERIFY(PageChecks::saveScreenshot(view, QStringLiteral("panel-de-dark")));
     }
 
