@@ -4,7 +4,10 @@
 
 #include <QHash>
 #include <QMutex>
+#include <QSemaphore>
 #include <QStringList>
+
+#include <atomic>
 
 // An in-memory handler database: applications at locations, schemes with ordered
 // handler lists. Setting a default moves the application to the front of the scheme's
@@ -37,9 +40,22 @@ public:
         return m_setCalls;
     }
 
+    // How often a scheme's handlers were looked up: each reading of a default does so once.
+    int schemeReads() const { return m_schemeReads; }
+
+    // Holds the next write at its start until released, as a slow system would.
+    void holdWrites() { m_held = true; }
+    void waitUntilWriting() { m_writing.acquire(); }
+    void releaseWrites()
+    {
+        m_held = false;
+        m_release.release();
+    }
+
     QStringList applicationsForScheme(const QString &scheme) const override
     {
         QMutexLocker lock(&m_mutex);
+        ++m_schemeReads;
         QStringList locations;
         for (const QString &identifier : m_schemes.value(scheme))
             locations.append(u"/apps/" + identifier + u".desktop");
@@ -71,6 +87,10 @@ public:
     }
     int setDefaultHandler(const QString &scheme, const QString &identifier) override
     {
+        if (m_held) {
+            m_writing.release();
+            m_release.acquire();
+        }
         QMutexLocker lock(&m_mutex);
         m_setCalls.append(scheme + u'=' + identifier);
         if (m_refused.contains(scheme))
@@ -91,4 +111,8 @@ private:
     QStringList m_refused;
     QStringList m_setCalls;
     bool m_readGone = true;
+    mutable int m_schemeReads = 0;
+    std::atomic<bool> m_held = false;
+    QSemaphore m_writing;
+    QSemaphore m_release;
 };

@@ -14,10 +14,7 @@
 #include "platform/ModalPrompter.h"
 #include "platform/SystemEvents.h"
 
-#include <QCoreApplication>
-#include <QMetaObject>
 #include <QPointer>
-#include <QThreadPool>
 
 #include <chrono>
 
@@ -26,8 +23,20 @@ using namespace std::chrono_literals;
 HandlerGuard::HandlerGuard(const GuardProfile &profile, const GuardEnvironment &environment,
                            QObject *parent)
     : QObject(parent), m_profile(profile), m_env(environment),
-      m_settings(profile, *environment.settings), m_resolver(profile, *environment.handlers)
+      m_settings(profile, *environment.settings), m_resolver(profile, *environment.handlers),
+      m_change(new ChangeTransaction(
+          profile, *environment.handlers, *environment.timers, [this] { return m_currentDefault; },
+          [this] {
+              updateCurrentDefault();
+              return m_currentDefault;
+          },
+          this))
 {
+    connect(m_change, &ChangeTransaction::switched, this,
+            [this](const HandlerRecord &from, const HandlerRecord &to) {
+                recordChange(from, to, false);
+            });
+    connect(m_change, &ChangeTransaction::ended, this, &HandlerGuard::endChange);
     if (m_env.alerts)
         connect(m_env.alerts, &ModalPrompter::presentingChanged, this,
                 &HandlerGuard::alertsPresentingChanged);
@@ -46,8 +55,6 @@ HandlerGuard::HandlerGuard(const GuardProfile &profile, const GuardEnvironment &
 HandlerGuard::~HandlerGuard()
 {
     stopMonitoring();
-    if (m_pollingTimer)
-        m_pollingTimer->stop();
 }
 
 void HandlerGuard::setDefaultsIfNeeded()
@@ -351,79 +358,13 @@ void HandlerGuard::recordChange(const HandlerRecord &from, const HandlerRecord &
 
 // --- the change transaction ---------------------------------------------------------------------
 
-namespace {
-constexpr int maxPolls = 60;
-constexpr std::chrono::milliseconds pollInterval = 1000ms;
-} // namespace
-
 void HandlerGuard::setDefault(const HandlerRecord &record)
 {
     Console::line(m_profile.setCalledPrefix + record.name);
     m_isChanging = true;
     Q_EMIT objectWillChange();
     Console::line(m_profile.changingFlagLine);
-
-    // The system calls may block, so they run on a worker; it touches no guard state and
-    // hands the record back to the main thread, where a gone guard drops it.
-    HandlerDatabase *handlers = m_env.handlers;
-    const QStringList schemes = m_profile.settingSchemes;
-    const QStringList labels = m_profile.settingSchemeLabels;
-    QPointer<HandlerGuard> guard(this);
-    QThreadPool::globalInstance()->start([handlers, schemes, labels, guard, record] {
-        QStringList statuses;
-        for (qsizetype i = 0; i < schemes.size(); ++i) {
-            const int status = handlers->setDefaultHandler(schemes.at(i), record.bundleIdentifier);
-            statuses.append(labels.value(i, schemes.at(i)) + u": " + QString::number(status));
-        }
-        Console::line(u"   " + statuses.join(u", "));
-        QMetaObject::invokeMethod(
-            QCoreApplication::instance(),
-            [guard, record] {
-                if (guard)
-                    guard->startPollingForChange(record);
-            },
-            Qt::QueuedConnection);
-    });
-}
-
-void HandlerGuard::startPollingForChange(const HandlerRecord &target)
-{
-    if (m_pollingTimer)
-        m_pollingTimer->stop();
-    m_polling = Polling{0, std::nullopt, target.bundleIdentifier, target};
-    Console::line(m_profile.startingPollingLine);
-    m_polling.previous = m_currentDefault;
-    // This timer is not held back by an open alert: the change-back answer is watched
-    // while further alerts are up.
-    if (!m_pollingTimer) {
-        m_pollingTimer = m_env.timers->createTimer(this);
-        connect(m_pollingTimer, &Timer::timeout, this, &HandlerGuard::pollTick);
-    }
-    m_pollingTimer->start(pollInterval, true);
-}
-
-void HandlerGuard::pollTick()
-{
-    ++m_polling.pollCount;
-    const auto current = m_resolver.currentDefaultIdentifier();
-    updateCurrentDefault();
-    Console::line(m_profile.pollPrefix + QString::number(m_polling.pollCount) + u": "
-                  + current.value_or(QStringLiteral("none")) + u" vs " + m_polling.targetBundleID);
-    if (current && *current == m_polling.targetBundleID) {
-        Console::line(m_profile.matchLine);
-        const HandlerRecord target = *m_polling.target;
-        if (m_polling.previous && m_polling.previous->bundleIdentifier != m_polling.targetBundleID)
-            recordChange(*m_polling.previous, target, false);
-        endChange();
-        Console::line(m_profile.setToPrefix + target.name);
-        m_pollingTimer->stop();
-        return;
-    }
-    if (m_polling.pollCount >= maxPolls) {
-        Console::line(m_profile.timeoutLine);
-        endChange();
-        m_pollingTimer->stop();
-    }
+    m_change->start(record);
 }
 
 void HandlerGuard::endChange()
@@ -434,10 +375,7 @@ void HandlerGuard::endChange()
 
 void HandlerGuard::cancelChange()
 {
-    Console::line(m_profile.cancelledLine);
-    if (m_pollingTimer)
-        m_pollingTimer->stop();
-    endChange();
+    m_change->cancel();
 }
 
 // --- alert and snooze ---------------------------------------------------------------------------

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "core/guard/ChangeTransaction.h"
 #include "core/guard/CheckInterval.h"
 #include "core/guard/DefaultResolver.h"
 #include "core/guard/GuardEnvironment.h"
@@ -95,8 +96,6 @@ private:
     void timerFired();
     void alertsPresentingChanged(bool presenting);
 
-    void startPollingForChange(const HandlerRecord &target);
-    void pollTick();
     void endChange();
     void recordChange(const HandlerRecord &from, const HandlerRecord &to, bool autoFix);
     void trackSetting(QStringView name, const QString &value) const;
@@ -113,23 +112,14 @@ private:
     GuardEnvironment m_env;
     GuardSettings m_settings;
     DefaultResolver m_resolver;
+    ChangeTransaction *m_change; // a child; its worker is waited for when the guard goes
 
     QList<HandlerRecord> m_installed;
     std::optional<HandlerRecord> m_currentDefault;
     bool m_isSnoozed = false;
     bool m_isChanging = false;
     Timer *m_monitoringTimer = nullptr;
-    Timer *m_pollingTimer = nullptr;
     std::optional<QDateTime> m_snoozeUntil;
     // A monitoring tick that came while an alert was up; it runs once the alert is gone.
     bool m_tickMissed = false;
-
-    // The change transaction being watched.
-    struct Polling {
-        int pollCount = 0;
-        std::optional<HandlerRecord> previous;
-        QString targetBundleID;
-        std::optional<HandlerRecord> target;
-    };
-    Polling m_polling;
 };

@@ -25,7 +25,10 @@ private Q_SLOTS:
                                                "   ✅ isChangingBrowser = true"}));
         QVERIFY(world.waitForPolling());
         QCOMPARE(world.handlers.setCalls(), QStringList({"http=firefox-esr", "https=firefox-esr"}));
-        world.poll(2);
+        world.poll();
+        const int reads = world.handlers.schemeReads();
+        world.poll();
+        QCOMPARE(world.handlers.schemeReads() - reads, 1); // one reading of the system a poll
         world.handlers.setHandlers("https", {"firefox-esr", "chromium"});
         world.poll();
         QCOMPARE(
@@ -148,6 +151,25 @@ private Q_SLOTS:
                                                       "✅ Browser set to Web"}));
         QCOMPARE(browser.browserChangeCount(), 1);
         QVERIFY(!browser.isChangingBrowser());
+    }
+
+    // Quitting while the system is still being asked waits for the answer: the worker
+    // touches neither a gone guard nor a gone database (the ASan build watches this).
+    void quittingWaitsForAWriteUnderWay()
+    {
+        GuardWorld world;
+        world.browsersDefault("chromium");
+        auto browser = std::make_unique<BrowserManager>(world.environment());
+        world.handlers.holdWrites();
+        browser->setDefaultBrowser(firefox());
+        world.handlers.waitUntilWriting();
+        // The system answers only once the guard itself is gone, while what it owns is
+        // being torn down.
+        connect(browser.get(), &QObject::destroyed, [&] { world.handlers.releaseWrites(); });
+        browser.reset();
+        QCOMPARE(world.handlers.setCalls(), QStringList({"http=firefox-esr", "https=firefox-esr"}));
+        GuardWorld::settle(); // the hand-back has no one left to go to
+        QVERIFY(!world.pollingTimer());
     }
 
     void theMailTwinSetsMailto()
