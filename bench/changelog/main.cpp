@@ -5,8 +5,8 @@
 #include "core/changelog/LogManager.h"
 #include "core/settings/SettingsStore.h"
 #include "core/settings/SettingsTable.h"
-#include "core/support/Console.h"
 #include "core/support/SystemClock.h"
+#include "foundation/Console.h"
 
 #include <QCoreApplication>
 #include <QElapsedTimer>

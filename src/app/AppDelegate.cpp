@@ -1,9 +1,9 @@
 #include "app/AppDelegate.h"
 
 #include "core/settings/SettingsStore.h"
-#include "core/support/Console.h"
 #include "core/updates/UpdateManager.h"
 #include "core/updates/UpdateScheduler.h"
+#include "foundation/Console.h"
 
 AppDelegate::AppDelegate(QObject *parent)
     : QObject(parent),

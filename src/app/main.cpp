@@ -3,7 +3,7 @@
 #include "core/guard/StatusReport.h"
 #include "core/settings/SettingsStore.h"
 #include "core/support/AppInfo.h"
-#include "core/support/Console.h"
+#include "foundation/Console.h"
 #include "platform/PlatformBackend.h"
 
 #include "BuildConfig.h"

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "core/support/Console.h"
+#include "foundation/Console.h"
 
 #include <QStringList>
 

@@ -3,8 +3,8 @@
 #include "core/changelog/ChangeLogCodec.h"
 #include "core/settings/SettingsStore.h"
 #include "core/settings/SettingsTable.h"
-#include "core/support/Console.h"
 #include "core/support/SystemClock.h"
+#include "foundation/Console.h"
 
 #include <algorithm>
 #include <utility>

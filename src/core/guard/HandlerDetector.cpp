@@ -1,6 +1,6 @@
 #include "core/guard/HandlerDetector.h"
 
-#include "core/support/Console.h"
+#include "foundation/Console.h"
 #include "platform/HandlerDatabase.h"
 
 #include <QSet>

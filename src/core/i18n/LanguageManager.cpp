@@ -2,8 +2,8 @@
 
 #include "core/settings/SettingsStore.h"
 #include "core/settings/SettingsTable.h"
-#include "core/support/Console.h"
 #include "core/support/TextFormat.h"
+#include "foundation/Console.h"
 #include "foundation/QtTimerFactory.h"
 
 #include <QFile>

@@ -1,8 +1,8 @@
 #include "core/telemetry/AptabaseManager.h"
 
 #include "core/support/AppInfo.h"
-#include "core/support/Console.h"
 #include "core/telemetry/SessionTracker.h"
+#include "foundation/Console.h"
 #include "platform/DeviceFacts.h"
 
 #include "aptabase/Aptabase.h"

@@ -2,8 +2,8 @@
 
 #include "core/settings/SettingsStore.h"
 #include "core/settings/SettingsTable.h"
-#include "core/support/Console.h"
 #include "core/updates/UpdateCheckInterval.h"
+#include "foundation/Console.h"
 #include "foundation/TimerFactory.h"
 
 namespace {

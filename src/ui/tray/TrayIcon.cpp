@@ -5,7 +5,7 @@
 #include "core/i18n/LanguageManager.h"
 #include "core/settings/SettingsStore.h"
 #include "core/settings/SettingsTable.h"
-#include "core/support/Console.h"
+#include "foundation/Console.h"
 #include "ui/tray/ShieldIcon.h"
 
 #include <QApplication>

@@ -1,4 +1,4 @@
-#include "core/support/Console.h"
+#include "foundation/Console.h"
 
 #include <QMutex>
 #include <QMutexLocker>
