@@ -33,7 +33,8 @@ class InstallTreeTest : public QObject {
         QHash<QByteArray, Group> result;
         KeyFileScanner scanner(content);
         while (scanner.next())
-            result[scanner.group()].insert(scanner.key().toByteArray(), scanner.value());
+            result[scanner.group()].insert(scanner.key().toByteArray(),
+                                           scanner.value().value_or(QString()));
         return scanner.valid() ? result : QHash<QByteArray, Group>();
     }
 

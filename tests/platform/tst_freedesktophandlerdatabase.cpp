@@ -136,6 +136,8 @@ private slots:
             << QByteArray("nodisplay.desktop;plain.desktop") << "nodisplay.desktop";
         // GIO opens URLs with a Hidden entry that a list names as default.
         QTest::newRow("Hidden") << QByteArray("hidden.desktop;plain.desktop") << "hidden.desktop";
+        QTest::newRow("Type with a blank at the end")
+            << QByteArray("typeblank.desktop;plain.desktop") << "plain.desktop";
         QTest::newRow("all unusable: first association")
             << QByteArray("gone.desktop;tryexec.desktop") << "nodisplay.desktop";
     }
@@ -154,6 +156,9 @@ private slots:
                    "Type=Link\nURL=https://127.0.0.1/\n");
         tree.entry(apps, QStringLiteral("nodisplay.desktop"), {}, "NoDisplay=true\n");
         tree.entry(apps, QStringLiteral("hidden.desktop"), types, "Hidden=true\n");
+        tree.entry(apps, QStringLiteral("hiddenblank.desktop"), types, "Hidden=true \t\n");
+        tree.write(apps + QStringLiteral("/typeblank.desktop"),
+                   "[Desktop Entry]\nType=Application \nName=x\n");
         tree.write(
             apps + QStringLiteral("/noprogram.desktop"),
             "[Desktop Entry]\nType=Application\nName=x\nExec=\"/nonexistent/dir/prog\" %u\n");
@@ -171,6 +176,61 @@ private slots:
                 + "\n"
                   "[Added Associations]\nx-scheme-handler/https=nodisplay.desktop;hidden.desktop;\n");
 
+        compareWithGio(QStringLiteral("https"));
+        if (QTest::currentTestFailed())
+            return;
+        QCOMPARE(defaultId("https"), expected);
+    }
+
+    // GLib keeps blanks after a list separator or at a value's end as part of the desktop id,
+    // and ignores a whole list over one line it refuses: the links open elsewhere then, here
+    // with the lower place's default.
+    void listsAreReadAsGLibReadsThem_data()
+    {
+        QTest::addColumn<QByteArray>("list");
+        QTest::addColumn<QString>("expected");
+        const QByteArray defaults = "[Default Applications]\nx-scheme-handler/https=";
+        QTest::newRow("blank at the end") << defaults + "beta.desktop \n"
+                                          << "gamma.desktop";
+        QTest::newRow("tab at the end") << defaults + "beta.desktop\t\n"
+                                        << "gamma.desktop";
+        QTest::newRow("escaped blank") << defaults + "beta.desktop\\s\n"
+                                       << "gamma.desktop";
+        QTest::newRow("blank after a separator") << defaults + "gone.desktop; beta.desktop\n"
+                                                 << "gamma.desktop";
+        QTest::newRow("unknown escape") << defaults + "beta.\\desktop\n"
+                                        << "gamma.desktop";
+        QTest::newRow("associations") << QByteArray(
+            "[Added Associations]\nx-scheme-handler/https=gone.desktop; epsilon.desktop;\n"
+            "[Removed Associations]\nx-scheme-handler/https=alpha.desktop; beta.desktop\t\n")
+                                      << "gamma.desktop";
+        QTest::newRow("blanks before key and value, blank inside a key")
+            << QByteArray("[Default Applications]\n \tx-scheme-handler/https \t= \tbeta.desktop\n"
+                          "[Other]\nsome key=1\n")
+            << "beta.desktop";
+        QTest::newRow("merge marker") << "<<<<<<< HEAD\n" + defaults + "beta.desktop\n"
+                                      << "gamma.desktop";
+        QTest::newRow("unclosed locale") << defaults + "beta.desktop\nName[x=y\n"
+                                         << "gamma.desktop";
+        QTest::newRow("control character in a group name")
+            << defaults + "beta.desktop\n[Added\x01]\n"
+            << "gamma.desktop";
+        QTest::newRow("encoding other than UTF-8")
+            << defaults + "beta.desktop\nEncoding=ISO-8859-1\n"
+            << "gamma.desktop";
+    }
+
+    void listsAreReadAsGLibReadsThem()
+    {
+        QFETCH(QByteArray, list);
+        QFETCH(QString, expected);
+        XdgTree tree;
+        installWeb(tree, "share1/applications", {"alpha", "beta", "gamma", "delta"});
+        tree.entry(QStringLiteral("share1/applications"), QStringLiteral("epsilon.desktop"), {});
+        tree.write(QStringLiteral("share1/applications/mimeapps.list"),
+                   "[Default Applications]\nx-scheme-handler/https=gamma.desktop\n"
+                   "[Added Associations]\nx-scheme-handler/https=alpha.desktop;delta.desktop;\n");
+        tree.write(QStringLiteral("config/mimeapps.list"), list);
         compareWithGio(QStringLiteral("https"));
         if (QTest::currentTestFailed())
             return;

@@ -29,10 +29,10 @@ private slots:
                                QStringLiteral("x-scheme-handler/https")),
                  QStringList({"web.desktop", "new.desktop", "other.desktop"}));
         editor.setValue(QStringLiteral("Default Applications"),
-                        QStringLiteral("x-scheme-handler/https"), QStringLiteral("new.desktop"));
+                        QStringLiteral("x-scheme-handler/https"), "new.desktop");
         editor.setValue(QStringLiteral("Added Associations"),
                         QStringLiteral("x-scheme-handler/https"),
-                        QStringLiteral("new.desktop;web.desktop;other.desktop;"));
+                        "new.desktop;web.desktop;other.desktop;");
         QByteArray expected = before;
         expected.replace("x-scheme-handler/https = web.desktop;new.desktop;other.desktop;",
                          "x-scheme-handler/https = new.desktop;web.desktop;other.desktop;");
@@ -76,8 +76,7 @@ private slots:
         QFETCH(QByteArray, before);
         QFETCH(QByteArray, after);
         MimeAppsListEditor editor(before);
-        editor.setValue(QStringLiteral("Default Applications"), QStringLiteral("k"),
-                        QStringLiteral("v"));
+        editor.setValue(QStringLiteral("Default Applications"), QStringLiteral("k"), "v");
         QCOMPARE(editor.content(), after);
     }
 
@@ -90,8 +89,8 @@ private slots:
             editor.content(),
             QByteArray(
                 "[Default Applications]\r\nj=b\r\n[Added Associations]\r\nk=a;\r\n[Default Applications]\r\n"));
-        QVERIFY(
-            editor.values(QStringLiteral("Default Applications"), QStringLiteral("k")).isEmpty());
+        QCOMPARE(editor.values(QStringLiteral("Default Applications"), QStringLiteral("k")),
+                 std::nullopt);
     }
 };
 

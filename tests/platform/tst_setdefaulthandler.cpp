@@ -1,7 +1,9 @@
 #include "platform/freedesktop/FreedesktopHandlerDatabase.h"
 
+#include "ConsoleCapture.h"
 #include "XdgTree.h"
 
+#include <QDate>
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
@@ -157,6 +159,82 @@ private slots:
         QVERIFY(QFile::setPermissions(list, privateMode));
         QCOMPARE(db.setDefaultHandler(QStringLiteral("https"), QStringLiteral("beta")), 0);
         QCOMPARE(QFile::permissions(list) & modeBits, privateMode);
+    }
+
+    // GLib reads no line of a list it refuses, so a default written into it would never be
+    // seen. The list is kept beside as it was and replaced by one GLib reads, with every line
+    // GLib can read.
+    void replacesAListGLibRefuses()
+    {
+        XdgTree tree;
+        installApps(tree);
+        tree.write(QStringLiteral("share1/applications/mimeapps.list"),
+                   "[Default Applications]\nx-scheme-handler/https=gamma.desktop\n");
+        const QByteArray before = "# mine\n"
+                                  "[Default Applications]\n"
+                                  "<<<<<<< HEAD\n"
+                                  "x-scheme-handler/https=alpha.desktop\n"
+                                  "=======\n"
+                                  "x-scheme-handler/mailto=gamma.desktop\r\n"
+                                  ">>>>>>> laptop\n"
+                                  "Name[x=y\n"
+                                  "[Added Associations\n"
+                                  "x-scheme-handler/http=alpha.desktop;\n"
+                                  "[Added Associations]\n"
+                                  "x-scheme-handler/https=gamma.desktop; beta.desktop;\n";
+        tree.write(QStringLiteral("config/mimeapps.list"), before);
+        const auto keptCopies = [&] {
+            return QDir(tree.path(QStringLiteral("config")))
+                .entryList({QStringLiteral("mimeapps.list.unreadable-*")});
+        };
+        QCOMPARE(gioDefault("https"), QStringLiteral("gamma.desktop"));
+
+        ConsoleCapture console;
+        QCOMPARE(db.setDefaultHandler(QStringLiteral("https"), QStringLiteral("beta")), 0);
+        QCOMPARE(tree.read(QStringLiteral("config/mimeapps.list")),
+                 QByteArray("# mine\n"
+                            "[Default Applications]\n"
+                            "x-scheme-handler/https=beta.desktop\n"
+                            "x-scheme-handler/mailto=gamma.desktop\r\n"
+                            "[Added Associations]\n"
+                            "x-scheme-handler/https=beta.desktop;gamma.desktop; beta.desktop;\n"));
+        QCOMPARE(gioDefault("https"), QStringLiteral("beta.desktop"));
+        QCOMPARE(gioDefault("mailto"), QStringLiteral("gamma.desktop"));
+        const QString kept = QStringLiteral("mimeapps.list.unreadable-")
+                             + QDate::currentDate().toString(Qt::ISODate);
+        QCOMPARE(keptCopies(), QStringList{kept});
+        QCOMPARE(tree.read(u"config/" + kept), before);
+        const QString list = tree.path(QStringLiteral("config/mimeapps.list"));
+        QCOMPARE(console.lines(),
+                 QStringList{u"⚠️ " + list
+                             + u" line 3 is unreadable (<<<<<<< HEAD); kept the file as " + list
+                             + u".unreadable-" + QDate::currentDate().toString(Qt::ISODate)
+                             + u" and wrote a readable list"});
+
+        // A second copy of the day gets a name of its own; a read-only list stays as it is.
+        tree.write(QStringLiteral("config/mimeapps.list"), before);
+        QCOMPARE(db.setDefaultHandler(QStringLiteral("https"), QStringLiteral("beta")), 0);
+        QCOMPARE(keptCopies().size(), 2);
+        tree.write(QStringLiteral("config/mimeapps.list"), before);
+        QVERIFY(QFile::setPermissions(list, QFileDevice::ReadOwner));
+        QCOMPARE(db.setDefaultHandler(QStringLiteral("https"), QStringLiteral("beta")),
+                 int(FreedesktopHandlerDatabase::NotWritable));
+        QCOMPARE(keptCopies().size(), 2);
+        QCOMPARE(tree.read(QStringLiteral("config/mimeapps.list")), before);
+    }
+
+    // A desktop-specific list GLib refuses hides nothing, so it is left alone.
+    void leavesARefusedDesktopListAlone()
+    {
+        XdgTree tree;
+        installApps(tree);
+        qputenv("XDG_CURRENT_DESKTOP", "GNOME");
+        const QByteArray gnome = "[Default Applications]\nx-scheme-handler/https=alpha.desktop\n"
+                                 "Name[x=y\n";
+        tree.write(QStringLiteral("config/gnome-mimeapps.list"), gnome);
+        QCOMPARE(db.setDefaultHandler(QStringLiteral("https"), QStringLiteral("beta")), 0);
+        QCOMPARE(tree.read(QStringLiteral("config/gnome-mimeapps.list")), gnome);
+        QCOMPARE(gioDefault("https"), QStringLiteral("beta.desktop"));
     }
 
     void concurrentWritersKeepEachOthersLines()

@@ -9,9 +9,11 @@ namespace {
 
 const QByteArray entryGroup = QByteArrayLiteral("Desktop Entry");
 
+// GLib's reading of a Boolean, which alone ignores trailing white space.
 bool readBoolean(QByteArrayView value)
 {
-    return value == "true" || value == "1";
+    const QByteArray trimmed = value.toByteArray().trimmed();
+    return trimmed == "true" || trimmed == "1";
 }
 
 // The first word of a command line, split as a POSIX shell (and GLib) splits it.
@@ -83,19 +85,19 @@ DesktopEntry DesktopEntry::parse(QByteArrayView content)
         if (key == "Name")
             entry.m_name = scanner.value();
         else if (key == "Type")
-            entry.m_type = scanner.value();
+            entry.m_type = scanner.value().value_or(QString());
         else if (key == "Hidden")
             entry.m_hidden = readBoolean(scanner.rawValue());
         else if (key == "NoDisplay")
             entry.m_noDisplay = readBoolean(scanner.rawValue());
         else if (key == "TryExec")
-            entry.m_tryExec = scanner.value();
+            entry.m_tryExec = scanner.value().value_or(QString());
         else if (key == "Exec")
-            entry.m_exec = scanner.value();
+            entry.m_exec = scanner.value().value_or(QString());
         else if (key == "MimeType")
-            entry.m_mimeTypes = scanner.listValue();
+            entry.m_mimeTypes = scanner.listValue().value_or(QStringList());
         else if (key == "Categories")
-            entry.m_categories = scanner.listValue();
+            entry.m_categories = scanner.listValue().value_or(QStringList());
     }
     entry.m_valid = scanner.valid() && scanner.firstGroup() == entryGroup;
     if (!entry.m_valid)

@@ -2,11 +2,15 @@
 
 #include "platform/freedesktop/AppStreamVersion.h"
 #include "platform/freedesktop/DesktopFileLocator.h"
+#include "platform/freedesktop/KeyFileScanner.h"
 #include "platform/freedesktop/MimeAppsListEditor.h"
 #include "platform/freedesktop/MimeAppsListWriter.h"
 #include "platform/freedesktop/MimeAssociations.h"
 #include "platform/freedesktop/XdgDirectories.h"
 
+#include "foundation/Console.h"
+
+#include <QDate>
 #include <QFileInfo>
 #include <QMutex>
 
@@ -45,23 +49,44 @@ bool isIdentifier(const QString &identifier)
            && !identifier.contains(u'\r');
 }
 
-QByteArray setDefaultIn(const QByteArray &content, const QString &mimeType,
-                        const QString &desktopId)
+// Whether a written list item names the desktop id.
+bool names(QByteArrayView item, const QString &desktopId)
 {
-    MimeAppsListEditor editor(content);
-    editor.setValue(defaultGroup, mimeType, desktopId);
-    QStringList added = editor.values(addedGroup, mimeType);
-    added.removeAll(desktopId);
-    added.prepend(desktopId);
-    editor.setValue(addedGroup, mimeType, added.join(u';') + u';');
-    return editor.content();
+    return KeyFileScanner::splitList(item) == QStringList{desktopId};
 }
 
+// A list GLib refuses as a whole changes nothing for it, so a default written into it would
+// never be seen. The user's file is kept byte for byte beside it, and the list that replaces
+// it carries every line GLib can read plus the new default.
+MimeAppsListWriter::Edit setDefaultIn(const QByteArray &content, const QString &mimeType,
+                                      const QString &desktopId,
+                                      QList<MimeAppsListEditor::RefusedLine> *refused)
+{
+    MimeAppsListEditor editor(content);
+    *refused = editor.refusedLines();
+    editor.dropRefusedLines();
+    const QByteArray id = KeyFileScanner::escapeListItem(desktopId);
+    editor.setValue(defaultGroup, mimeType, id);
+    QByteArray added = id + ';';
+    for (const QByteArray &item : editor.rawItems(addedGroup, mimeType)) {
+        if (!names(item, desktopId))
+            added += item + ';';
+    }
+    editor.setValue(addedGroup, mimeType, added);
+    if (refused->isEmpty())
+        return editor.content();
+    return {editor.content(),
+            QStringLiteral(".unreadable-") + QDate::currentDate().toString(Qt::ISODate)};
+}
+
+// A desktop-specific list GLib refuses shadows nothing, and is left as it is.
 QByteArray dropContraryDefault(const QByteArray &content, const QString &mimeType,
                                const QString &desktopId)
 {
     MimeAppsListEditor editor(content);
-    const QStringList defaults = editor.values(defaultGroup, mimeType);
+    if (!editor.refusedLines().isEmpty())
+        return content;
+    const QStringList defaults = editor.values(defaultGroup, mimeType).value_or(QStringList());
     if (!defaults.isEmpty() && defaults.first() != desktopId)
         editor.removeKey(defaultGroup, mimeType);
     return editor.content();
@@ -180,21 +205,32 @@ int FreedesktopHandlerDatabase::setDefaultHandler(const QString &scheme, const Q
 
     const QMutexLocker locker(&writeLock);
     const QString configHome = XdgDirectories::configHome();
-    const int status = MimeAppsListWriter::update(
-        configHome + QStringLiteral("/mimeapps.list"),
-        [&](const QByteArray &content) { return setDefaultIn(content, mimeType, desktopId); });
-    if (status != Success)
-        return status;
+    const QString listPath = configHome + QStringLiteral("/mimeapps.list");
+    QList<MimeAppsListEditor::RefusedLine> refused;
+    const MimeAppsListWriter::Result written =
+        MimeAppsListWriter::update(listPath, [&](const QByteArray &content) {
+            return setDefaultIn(content, mimeType, desktopId, &refused);
+        });
+    if (written.status != Success)
+        return written.status;
+    if (!written.keptCopy.isEmpty())
+        Console::line(
+            QStringLiteral("⚠️ %1 line %2 is unreadable (%3); kept the file as %4 and "
+                           "wrote a readable list")
+                .arg(listPath)
+                .arg(refused.first().number)
+                .arg(QString::fromUtf8(refused.first().text), written.keptCopy));
     // The desktop-specific lists of the same directory are read first; a default there for
     // another application would hide the one just written.
     for (const QString &desktop : XdgDirectories::currentDesktops()) {
         const QString path = configHome + u'/' + desktop + QStringLiteral("-mimeapps.list");
         const int shadowStatus = MimeAppsListWriter::update(
-            path,
-            [&](const QByteArray &content) {
-                return dropContraryDefault(content, mimeType, desktopId);
-            },
-            false);
+                                     path,
+                                     [&](const QByteArray &content) {
+                                         return dropContraryDefault(content, mimeType, desktopId);
+                                     },
+                                     false)
+                                     .status;
         if (shadowStatus != Success)
             return shadowStatus;
     }

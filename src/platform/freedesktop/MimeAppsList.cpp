@@ -21,14 +21,16 @@ MimeAppsList MimeAppsList::parse(QByteArrayView content, const QString &mimeType
         if (scanner.key() != key)
             continue;
         const QByteArray &group = scanner.group();
+        // A value GLib cannot read counts as no value; it still hides an earlier line's.
+        const QStringList ids = scanner.listValue().value_or(QStringList());
         if (group == "Default Applications")
-            list.m_defaults = scanner.listValue();
+            list.m_defaults = ids;
         else if (group == "Added Associations")
-            list.m_added = scanner.listValue();
+            list.m_added = ids;
         else if (group == "Removed Associations")
-            list.m_removed = scanner.listValue();
+            list.m_removed = ids;
         else if (group == "MIME Cache")
-            list.m_cached = scanner.listValue();
+            list.m_cached = ids;
     }
     if (!scanner.valid())
         return {};

@@ -2,28 +2,10 @@
 
 #include "platform/freedesktop/KeyFileScanner.h"
 
-namespace {
-
-QByteArray keyOf(const QByteArray &text)
-{
-    const QByteArray line = text.trimmed();
-    if (line.isEmpty() || line.startsWith('#') || line.startsWith('['))
-        return {};
-    const qsizetype equals = line.indexOf('=');
-    return equals > 0 ? line.first(equals).trimmed() : QByteArray();
-}
-
-bool isBlankOrComment(const QByteArray &text)
-{
-    const QByteArray line = text.trimmed();
-    return line.isEmpty() || line.startsWith('#');
-}
-
-} // namespace
-
 MimeAppsListEditor::MimeAppsListEditor(const QByteArray &content)
 {
-    QByteArray group;
+    KeyFileScanner scanner;
+    bool underRefusedHeader = false;
     qsizetype pos = 0;
     while (pos < content.size()) {
         qsizetype end = content.indexOf('\n', pos);
@@ -40,63 +22,104 @@ MimeAppsListEditor::MimeAppsListEditor(const QByteArray &content)
             }
             pos = end + 1;
         }
-        QByteArray name;
-        if (KeyFileScanner::parseGroupLine(line.text.trimmed(), &name))
-            group = name;
-        line.group = group;
+        switch (scanner.feed(line.text)) {
+        case KeyFileScanner::LineKind::blank:
+            break;
+        case KeyFileScanner::LineKind::group:
+            line.kind = Kind::group;
+            underRefusedHeader = false;
+            break;
+        case KeyFileScanner::LineKind::key:
+            line.kind = underRefusedHeader ? Kind::orphan : Kind::key;
+            line.key = scanner.key().toByteArray();
+            line.valueStart = scanner.rawValue().data() - line.text.constData();
+            break;
+        case KeyFileScanner::LineKind::refused:
+            line.kind = Kind::refused;
+            underRefusedHeader =
+                underRefusedHeader || KeyFileScanner::trimmedStart(line.text).startsWith('[');
+            break;
+        }
+        line.group = scanner.group();
         m_lines.append(line);
     }
 }
 
-QStringList MimeAppsListEditor::values(const QString &group, const QString &key) const
+QList<MimeAppsListEditor::RefusedLine> MimeAppsListEditor::refusedLines() const
+{
+    QList<RefusedLine> refused;
+    for (qsizetype i = 0; i < m_lines.size(); ++i) {
+        if (m_lines[i].kind == Kind::refused)
+            refused.append({i + 1, m_lines[i].text});
+    }
+    return refused;
+}
+
+void MimeAppsListEditor::dropRefusedLines()
+{
+    m_lines.removeIf(
+        [](const Line &line) { return line.kind == Kind::refused || line.kind == Kind::orphan; });
+}
+
+std::optional<QStringList> MimeAppsListEditor::values(const QString &group,
+                                                      const QString &key) const
+{
+    const QList<qsizetype> lines = keyLines(group.toUtf8(), key.toUtf8());
+    if (lines.isEmpty())
+        return std::nullopt;
+    const Line &line = m_lines[lines.last()];
+    return KeyFileScanner::splitList(QByteArrayView(line.text).sliced(line.valueStart));
+}
+
+QList<QByteArray> MimeAppsListEditor::rawItems(const QString &group, const QString &key) const
 {
     const QList<qsizetype> lines = keyLines(group.toUtf8(), key.toUtf8());
     if (lines.isEmpty())
         return {};
-    const QByteArray &text = m_lines[lines.last()].text;
-    return KeyFileScanner::splitList(QByteArrayView(text).sliced(text.indexOf('=') + 1));
+    const Line &line = m_lines[lines.last()];
+    QList<QByteArray> items;
+    for (const QByteArrayView item :
+         KeyFileScanner::rawListItems(QByteArrayView(line.text).sliced(line.valueStart)))
+        items.append(item.toByteArray());
+    return items;
 }
 
-void MimeAppsListEditor::setValue(const QString &group, const QString &key, const QString &value)
+void MimeAppsListEditor::setValue(const QString &group, const QString &key, const QByteArray &value)
 {
     const QByteArray groupName = group.toUtf8();
     const QByteArray keyName = key.toUtf8();
-    const QByteArray bytes = value.toUtf8();
     QList<qsizetype> lines = keyLines(groupName, keyName);
     if (!lines.isEmpty()) {
         Line &line = m_lines[lines.takeLast()];
-        qsizetype valueStart = line.text.indexOf('=') + 1;
-        while (valueStart < line.text.size()
-               && (line.text[valueStart] == ' ' || line.text[valueStart] == '\t'))
-            ++valueStart;
-        line.text = line.text.first(valueStart) + bytes;
+        line.text = line.text.first(line.valueStart) + value;
         for (auto it = lines.crbegin(); it != lines.crend(); ++it)
             m_lines.removeAt(*it);
         return;
     }
-    const QByteArray text = keyName + '=' + bytes;
+    const QByteArray text = keyName + '=' + value;
+    const Line added{text, newline(), groupName, Kind::key, keyName, keyName.size() + 1};
     const qsizetype header = lastGroupHeader(groupName);
     if (header >= 0) {
         qsizetype insertAt = header + 1;
         for (qsizetype i = header + 1; i < m_lines.size() && m_lines[i].group == groupName; ++i) {
-            if (!keyOf(m_lines[i].text).isEmpty())
+            if (m_lines[i].kind == Kind::key)
                 insertAt = i + 1;
-            else if (!isBlankOrComment(m_lines[i].text))
+            else if (m_lines[i].kind != Kind::blank)
                 break;
         }
         if (m_lines[insertAt - 1].ending.isEmpty())
             m_lines[insertAt - 1].ending = newline();
-        m_lines.insert(insertAt, Line{text, newline(), groupName});
+        m_lines.insert(insertAt, added);
         return;
     }
     if (!m_lines.isEmpty()) {
         if (m_lines.last().ending.isEmpty())
             m_lines.last().ending = newline();
         if (!m_lines.last().text.trimmed().isEmpty())
-            m_lines.append(Line{{}, newline(), m_lines.last().group});
+            m_lines.append(Line{{}, newline(), m_lines.last().group, Kind::blank, {}, 0});
     }
-    m_lines.append(Line{'[' + groupName + ']', newline(), groupName});
-    m_lines.append(Line{text, newline(), groupName});
+    m_lines.append(Line{'[' + groupName + ']', newline(), groupName, Kind::group, {}, 0});
+    m_lines.append(added);
 }
 
 void MimeAppsListEditor::removeKey(const QString &group, const QString &key)
@@ -118,7 +141,7 @@ QList<qsizetype> MimeAppsListEditor::keyLines(const QByteArray &group, const QBy
 {
     QList<qsizetype> found;
     for (qsizetype i = 0; i < m_lines.size(); ++i) {
-        if (m_lines[i].group == group && keyOf(m_lines[i].text) == key)
+        if (m_lines[i].kind == Kind::key && m_lines[i].group == group && m_lines[i].key == key)
             found.append(i);
     }
     return found;
@@ -127,8 +150,7 @@ QList<qsizetype> MimeAppsListEditor::keyLines(const QByteArray &group, const QBy
 qsizetype MimeAppsListEditor::lastGroupHeader(const QByteArray &group) const
 {
     for (qsizetype i = m_lines.size() - 1; i >= 0; --i) {
-        QByteArray name;
-        if (KeyFileScanner::parseGroupLine(m_lines[i].text.trimmed(), &name) && name == group)
+        if (m_lines[i].kind == Kind::group && m_lines[i].group == group)
             return i;
     }
     return -1;

@@ -6,6 +6,7 @@
 #include <QSaveFile>
 
 #include <sys/statvfs.h>
+#include <unistd.h>
 
 namespace {
 
@@ -28,39 +29,67 @@ bool onReadOnlyFileSystem(const QString &dir)
     return statvfs(QFile::encodeName(dir).constData(), &fs) == 0 && (fs.f_flag & ST_RDONLY) != 0;
 }
 
+// Writes `bytes` to a new file named after `target`, never over an existing one, and syncs
+// it; returns its path, or an empty string when no copy could be made.
+QString keepCopy(const QString &target, const QString &suffix, const QByteArray &bytes,
+                 QFileDevice::Permissions mode)
+{
+    for (int n = 1; n <= 100; ++n) {
+        const QString name = target + suffix + (n > 1 ? u'-' + QString::number(n) : QString());
+        QFile file(name);
+        if (!file.open(QIODevice::WriteOnly | QIODevice::NewOnly, mode)) {
+            if (file.exists())
+                continue;
+            return {};
+        }
+        if (file.write(bytes) == bytes.size() && file.flush() && ::fsync(file.handle()) == 0)
+            return name;
+        file.remove();
+        return {};
+    }
+    return {};
+}
+
 } // namespace
 
-int MimeAppsListWriter::update(const QString &path,
-                               const std::function<QByteArray(const QByteArray &)> &edit,
-                               bool createIfMissing)
+MimeAppsListWriter::Result
+MimeAppsListWriter::update(const QString &path, const std::function<Edit(const QByteArray &)> &edit,
+                           bool createIfMissing)
 {
     const QString target = writeTarget(path);
     const QFileInfo info(target);
     QByteArray before;
     if (info.exists()) {
         if (!(info.permissions() & QFileDevice::WriteOwner))
-            return NotWritable;
+            return {NotWritable};
         QFile file(target);
         if (!file.open(QIODevice::ReadOnly))
-            return NotWritable;
+            return {NotWritable};
         before = file.readAll();
     } else if (!createIfMissing) {
-        return Unchanged;
+        return {Unchanged};
     }
-    const QByteArray after = edit(before);
-    if (info.exists() && after == before)
-        return Unchanged;
+    const Edit after = edit(before);
+    if (info.exists() && after.content == before)
+        return {Unchanged};
 
     const QString dir = info.absolutePath();
     if (!QDir().mkpath(dir))
-        return onReadOnlyFileSystem(QFileInfo(dir).absolutePath()) ? ReadOnlyFileSystem : Failed;
+        return {onReadOnlyFileSystem(QFileInfo(dir).absolutePath()) ? ReadOnlyFileSystem : Failed};
     if (onReadOnlyFileSystem(dir))
-        return ReadOnlyFileSystem;
+        return {ReadOnlyFileSystem};
+    Result result;
+    if (info.exists() && !after.keepOriginalSuffix.isEmpty()) {
+        // The copy is whole before the list is replaced, so a crash leaves one or the other.
+        result.keptCopy = keepCopy(target, after.keepOriginalSuffix, before, info.permissions());
+        if (result.keptCopy.isEmpty())
+            return {Failed};
+    }
     QSaveFile file(target);
     file.setDirectWriteFallback(false);
     if (!file.open(QIODevice::WriteOnly))
-        return Failed;
-    if (file.write(after) != after.size() || !file.commit())
-        return Failed;
-    return Written;
+        return {Failed};
+    if (file.write(after.content) != after.content.size() || !file.commit())
+        return {Failed};
+    return result;
 }

@@ -18,9 +18,27 @@ public:
         Failed = 5,              // EIO
     };
 
+    // What to store, and whether the file as it was must be kept beside it first, under its
+    // name followed by `keepOriginalSuffix` (and "-2", "-3", ... where that name is taken).
+    struct Edit {
+        Edit(QByteArray content, QString keepOriginalSuffix = {})
+            : content(std::move(content)), keepOriginalSuffix(std::move(keepOriginalSuffix))
+        {
+        }
+        QByteArray content;
+        QString keepOriginalSuffix;
+    };
+    struct Result {
+        Result(int status = Written, QString keptCopy = {})
+            : status(status), keptCopy(std::move(keptCopy))
+        {
+        }
+        int status;
+        QString keptCopy; // the path of the kept original, if one was made
+    };
+
     // Reads the file (missing reads as empty), applies `edit` to its bytes and stores the
     // result if it differs. With `createIfMissing` false a missing file stays missing.
-    static int update(const QString &path,
-                      const std::function<QByteArray(const QByteArray &)> &edit,
-                      bool createIfMissing = true);
+    static Result update(const QString &path, const std::function<Edit(const QByteArray &)> &edit,
+                         bool createIfMissing = true);
 };

@@ -11,6 +11,7 @@
 #include "core/guard/EmailClientManager.h"
 #include "platform/freedesktop/FreedesktopHandlerDatabase.h"
 
+#include <QDir>
 #include <QProcess>
 #include <QStandardPaths>
 #include <QTest>
@@ -47,6 +48,31 @@ class GuardEndToEndTest : public QObject {
         return process.waitForFinished(30000) && process.exitStatus() == QProcess::NormalExit
                && process.exitCode() == 0;
     }
+
+    // One guard's services, with the real handler database.
+    struct Rig {
+        TempSettings settings;
+        FreedesktopHandlerDatabase handlers;
+        FakeClock clock;
+        FakeTimerFactory timers;
+        ScriptedPrompter alerts;
+        LogManager log{settings.store(), clock};
+        RecordingTelemetry telemetry;
+        EnglishTexts texts;
+        GuardEnvironment env;
+
+        Rig()
+        {
+            env.settings = &settings.store();
+            env.handlers = &handlers;
+            env.clock = &clock;
+            env.timers = &timers;
+            env.alerts = &alerts;
+            env.log = &log;
+            env.telemetry = &telemetry;
+            env.texts = &texts;
+        }
+    };
 
 private Q_SLOTS:
     void initTestCase()
@@ -103,30 +129,15 @@ private Q_SLOTS:
         QFETCH(QString, intruder);
         QFETCH(QStringList, expected);
 
-        TempSettings settings;
-        FreedesktopHandlerDatabase handlers;
-        FakeClock clock;
-        FakeTimerFactory timers;
-        ScriptedPrompter alerts;
-        LogManager log(settings.store(), clock);
-        RecordingTelemetry telemetry;
-        EnglishTexts texts;
-        GuardEnvironment env;
-        env.settings = &settings.store();
-        env.handlers = &handlers;
-        env.clock = &clock;
-        env.timers = &timers;
-        env.alerts = &alerts;
-        env.log = &log;
-        env.telemetry = &telemetry;
-        env.texts = &texts;
-
+        Rig rig;
+        FakeTimerFactory &timers = rig.timers;
+        ScriptedPrompter &alerts = rig.alerts;
         QVERIFY(xdgMimeDefault(target, schemes));
         std::unique_ptr<HandlerGuard> guard;
         if (mail)
-            guard = std::make_unique<EmailClientManager>(env);
+            guard = std::make_unique<EmailClientManager>(rig.env);
         else
-            guard = std::make_unique<BrowserManager>(env);
+            guard = std::make_unique<BrowserManager>(rig.env);
         QCOMPARE(guard->currentDefault()->bundleIdentifier, target);
         guard->setTarget(guard->currentDefault());
 
@@ -156,6 +167,41 @@ private Q_SLOTS:
         timers.fire(600s);
         QVERIFY(console.lines().isEmpty());
         QCOMPARE(guard->changeCount(), 2);
+    }
+
+    // A hand edit left a line GLib refuses in the user's list: GIO reads none of it, so the
+    // system's default stands; the guard sees that, and the change back takes.
+    void aListGLibRefusesProtectsNothing()
+    {
+        Rig rig;
+        m_tree->write(QStringLiteral("etc/xdg/mimeapps.list"),
+                      "[Default Applications]\nx-scheme-handler/https=chromium.desktop\n");
+        m_tree->write(QStringLiteral("config/mimeapps.list"),
+                      "[Default Applications]\nx-scheme-handler/https=firefox.desktop\n"
+                      "Name[x=y\n");
+        const QString https = QStringLiteral("x-scheme-handler/https");
+        QCOMPARE(XdgTree::gioMime(https).defaultId, QStringLiteral("chromium.desktop"));
+
+        BrowserManager guard(rig.env);
+        QCOMPARE(guard.currentDefault()->bundleIdentifier, QStringLiteral("chromium"));
+        for (const HandlerRecord &record : guard.installed()) {
+            if (record.bundleIdentifier == u"firefox")
+                guard.setTarget(record);
+        }
+        ConsoleCapture console;
+        rig.timers.fire(600s);
+        QCOMPARE(guard.changeCount(), 1);
+        QTRY_VERIFY(rig.alerts.isPresenting());
+        QVERIFY(rig.alerts.answer(0)); // change back
+        QVERIFY(
+            QTest::qWaitFor([&] { return !rig.timers.activeWithInterval(1s).isEmpty(); }, 10000));
+        rig.timers.fire(1s);
+        QVERIFY(console.contains(QStringLiteral("📡 Poll 1: firefox vs firefox")));
+        QCOMPARE(XdgTree::gioMime(https).defaultId, QStringLiteral("firefox.desktop"));
+        QCOMPARE(QDir(m_tree->path(QStringLiteral("config")))
+                     .entryList({QStringLiteral("mimeapps.list.unreadable-*")})
+                     .size(),
+                 1);
     }
 };
 
