@@ -45,8 +45,10 @@ bool FreedesktopSystemEvents::watchScreenSaver()
     for (const QString &service : screenSavers) {
         if (!bus.interface()->isServiceRegistered(service))
             continue;
-        // Desktops publish the interface at different paths; match any.
-        return bus.connect(service, QString(), service, QStringLiteral("ActiveChanged"), this,
+        // The service's own path only: KDE's locker publishes the same object at /ScreenSaver
+        // too, and sends each signal from both paths.
+        const QString path = u'/' + QString(service).replace(u'.', u'/');
+        return bus.connect(service, path, service, QStringLiteral("ActiveChanged"), this,
                            SLOT(screenSaverActiveChanged(bool)));
     }
     return false;

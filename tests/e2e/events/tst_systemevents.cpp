@@ -11,6 +11,7 @@
 #include "platform/freedesktop/FreedesktopSystemEvents.h"
 
 #include <QDBusConnectionInterface>
+#include <QScopeGuard>
 #include <QSignalSpy>
 #include <QTest>
 
@@ -36,11 +37,12 @@ class SystemEventsTest : public QObject {
                                              QStringLiteral("screensaver"));
     }
 
-    static void screenSaverActive(QDBusConnection &bus, bool active)
+    static void
+    screenSaverActive(QDBusConnection &bus, bool active,
+                      const QString &path = QStringLiteral("/org/freedesktop/ScreenSaver"))
     {
         QDBusMessage signal = QDBusMessage::createSignal(
-            QStringLiteral("/org/freedesktop/ScreenSaver"),
-            QStringLiteral("org.freedesktop.ScreenSaver"), QStringLiteral("ActiveChanged"));
+            path, QStringLiteral("org.freedesktop.ScreenSaver"), QStringLiteral("ActiveChanged"));
         signal << active;
         bus.send(signal);
     }
@@ -114,6 +116,25 @@ private Q_SLOTS:
 
         saver.unregisterService(QStringLiteral("org.freedesktop.ScreenSaver"));
         QDBusConnection::disconnectFromBus(QStringLiteral("screensaver"));
+    }
+
+    // KDE's locker publishes one object at /ScreenSaver and at the service's own path, and
+    // each signal comes from both: one unlock must stay one event.
+    void anUnlockSentFromTwoPathsIsOneEvent()
+    {
+        QDBusConnection saver = screenSaverBus();
+        QVERIFY(saver.registerService(QStringLiteral("org.freedesktop.ScreenSaver")));
+        const auto cleanup = qScopeGuard([&] {
+            saver.unregisterService(QStringLiteral("org.freedesktop.ScreenSaver"));
+            QDBusConnection::disconnectFromBus(QStringLiteral("screensaver"));
+        });
+        FreedesktopSystemEvents events;
+        QSignalSpy unlocks(&events, &SystemEvents::screenUnlocked);
+
+        screenSaverActive(saver, false);
+        screenSaverActive(saver, false, QStringLiteral("/ScreenSaver"));
+        QVERIFY(delivered(saver, QDBusConnection::sessionBus()));
+        QCOMPARE(unlocks.count(), 1);
     }
 
     void withoutAScreenSaverTheSessionLockHintIsWatched()
