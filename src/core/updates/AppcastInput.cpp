@@ -37,9 +37,9 @@ qsizetype skipPast(QStringView text, qsizetype from, QStringView terminator)
     return at < 0 ? -1 : at + terminator.size();
 }
 
-// Counts the attribute assignments of the tag opening at `start` (outside quoted values) and
-// returns the position after it, or -1 when it is unterminated.
-qsizetype scanTag(QStringView text, qsizetype start, int *assignments)
+// Counts the attribute assignments and the '[' of the tag or declaration opening at `start`
+// (outside quoted values) and returns the position after it, or -1 when it is unterminated.
+qsizetype scanTag(QStringView text, qsizetype start, int *assignments, int *brackets)
 {
     char16_t quote = 0;
     for (qsizetype i = start + 1; i < text.size(); ++i) {
@@ -51,6 +51,8 @@ qsizetype scanTag(QStringView text, qsizetype start, int *assignments)
             quote = c;
         } else if (c == u'=') {
             ++*assignments;
+        } else if (c == u'[') {
+            ++*brackets;
         } else if (c == u'>') {
             return i + 1;
         }
@@ -84,12 +86,17 @@ bool AppcastInput::markupWithinLimits(QStringView text)
             i = skipPast(text, i + 9, u"]]>");
         } else if (rest.startsWith(u"<?")) {
             i = skipPast(text, i + 2, u"?>");
-        } else if (rest.startsWith(u"<!")) {
-            return false; // a document type declaration: nothing else in XML starts so
         } else {
+            // A document type declaration may name an external DTD, which the reader never
+            // loads; its internal subset, where entities and attribute lists are declared,
+            // starts with '['. Nothing else in XML starts with "<!".
+            const bool declaration = rest.startsWith(u"<!");
+            if (declaration && !rest.startsWith(u"<!DOCTYPE"))
+                return false;
             int assignments = 0;
-            i = scanTag(text, i, &assignments);
-            if (assignments > kMaxAttributesPerTag)
+            int brackets = 0;
+            i = scanTag(text, i, &assignments, &brackets);
+            if (assignments > kMaxAttributesPerTag || (declaration && brackets > 0))
                 return false;
         }
     }

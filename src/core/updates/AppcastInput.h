@@ -14,9 +14,10 @@
 //   a few hundred kilobytes of them take seconds and a few megabytes take hours, and default
 //   attributes are copied into every matching element;
 // - everything else is linear in the input.
-// A feed is a few kilobytes of plain RSS, so the limits below never touch one: no document
-// type declaration at all (which rules out every entity and declared default), a bounded
-// number of attributes per tag, and a bounded size.
+// A feed is a few kilobytes of plain RSS, so the limits below never touch one: no internal
+// subset in a document type declaration (which rules out every entity and declared default;
+// a declaration naming only an external DTD, as RSS 0.91 feeds carry, is fine, as the reader
+// never loads it), a bounded number of attributes per tag, and a bounded size.
 // The bytes are decoded here, as the reader would (byte order mark or UTF-16/32 layout, else
 // the encoding named by the XML declaration, else UTF-8), and the reader then parses this very
 // text, so the check and the parse cannot read different markup (UTF-7 can spell "<" as
@@ -33,8 +34,9 @@ public:
     // or holds markup beyond the limits above.
     static std::optional<QString> decode(const QByteArray &data);
 
-    // False when the text holds a document type declaration or a tag with more attributes than
-    // allowed. Comments, CDATA sections and processing instructions are skipped as the reader
-    // skips them; unterminated ones are left for the reader to reject.
+    // False when the text holds a document type declaration with an internal subset, any
+    // other "<!" declaration, or a tag with more attributes than allowed. Comments, CDATA sections
+    // and processing instructions are skipped as the reader skips them; unterminated ones are left
+    // for the reader to reject.
     static bool markupWithinLimits(QStringView text);
 };

@@ -152,6 +152,17 @@ private slots:
             << found("4");
         QTest::newRow("attributes within the limit")
             << manyAttributes(AppcastInput::kMaxAttributesPerTag - 1) << found("3");
+        const auto withDoctype = [](const QByteArray &doctype, const QByteArray &xml) {
+            return QByteArray(xml).replace("\n<rss", QByteArray("\n" + doctype + "\n<rss"));
+        };
+        QTest::newRow("RSS 0.91 document type")
+            << withDoctype("<!DOCTYPE rss PUBLIC \"-//Netscape Communications//DTD RSS 0.91//EN\"\n"
+                           "  \"http://my.netscape.com/publish/formats/rss-0.91.dtd\">",
+                           item(enclosure("0.91")))
+            << found("0.91");
+        QTest::newRow("document type with a bracket in its system id")
+            << withDoctype("<!DOCTYPE rss SYSTEM 'http://h/[x].dtd'>", item(enclosure("6")))
+            << found("6");
         QTest::newRow("doctype-like text in comment, PI and CDATA")
             << item("<!-- <!DOCTYPE x> --><?pi <!DOCTYPE x>?><![CDATA[<!DOCTYPE x>]]>"
                     "<enclosure sparkle:version='5'/>")
@@ -186,6 +197,8 @@ private slots:
             laughs += "<!ENTITY a" + QByteArray::number(i) + " '"
                       + QByteArray("&a" + QByteArray::number(i - 1) + ";").repeated(10) + "'>";
         QTest::newRow("nested entities") << laughs + "]><rss><item>&a12;</item></rss>";
+        QTest::newRow("internal subset after a system id")
+            << QByteArray("<!DOCTYPE rss SYSTEM \"r.dtd\" [<!ATTLIST item a CDATA 'x'>]><rss/>");
         QTest::newRow("doctype behind UTF-7") << QByteArray("<?xml version='1.0' encoding='UTF-7'?>"
                                                             "+ADw-!DOCTYPE r +AFs-+AF0-+AD4-<r/>");
         QTest::newRow("attributes of one tag") << "<rss>" + manyAttributes(400000) + "</rss>";
