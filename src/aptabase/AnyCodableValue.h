@@ -21,6 +21,8 @@ public:
     static AnyCodableValue null() { return AnyCodableValue(std::monostate()); }
 
     Kind kind() const { return static_cast<Kind>(m_value.index()); }
+    // The text of a string value; null for the other kinds.
+    const QString *text() const { return std::get_if<QString>(&m_value); }
 
     // None when the value has no JSON form (a NaN or an infinity).
     std::optional<QJsonValue> toJson() const;

@@ -5,6 +5,7 @@
 #include "foundation/QtTimerFactory.h"
 
 #include <QRandomGenerator>
+#include <QTextBoundaryFinder>
 #include <QtNumeric>
 
 #include <chrono>
@@ -16,6 +17,26 @@ namespace {
 constexpr double debugFlushInterval = 2.0;
 constexpr double releaseFlushInterval = 60.0;
 constexpr quint64 randomPartRange = 100000000; // eight decimal digits
+// The ingestion service refuses a longer string property, in UTF-16 code units, and with it
+// the whole batch.
+constexpr qsizetype maxPropertyLength = 200;
+
+// Cuts long texts at the last character boundary within the limit (a character's code units,
+// combining marks included, stay together).
+CodableProps clamped(CodableProps props)
+{
+    for (AnyCodableValue &value : props) {
+        const QString *text = value.text();
+        if (!text || text->size() <= maxPropertyLength)
+            continue;
+        QTextBoundaryFinder characters(QTextBoundaryFinder::Grapheme, *text);
+        characters.setPosition(maxPropertyLength);
+        if (!characters.isAtBoundary())
+            characters.toPreviousBoundary();
+        value = AnyCodableValue::string(text->left(characters.position()));
+    }
+    return props;
+}
 
 TimerFactory &qtTimers()
 {
@@ -74,7 +95,7 @@ void AptabaseClient::trackEvent(const QString &eventName, const CodableProps &pr
     event.systemProps.appBuildNumber = m_env.appBuildNumber;
     event.systemProps.sdkVersion = QString::fromLatin1(sdkVersion);
     event.systemProps.deviceModel = m_env.deviceModel;
-    event.props = props;
+    event.props = clamped(props);
     m_dispatcher->enqueue(event);
 }
 

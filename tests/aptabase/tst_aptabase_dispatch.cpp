@@ -5,6 +5,7 @@
 #include "aptabase/AptabaseClient.h"
 #include "aptabase/EventDispatcher.h"
 
+#include <QJsonObject>
 #include <QTest>
 
 #include <memory>
@@ -90,6 +91,33 @@ private slots:
         }
         QCOMPARE(server.problems, QStringList());
         QCOMPARE(client->dispatcher().pendingCount(), 0);
+    }
+
+    // The service refuses a string property over 200 UTF-16 code units, and the whole batch
+    // with it: a long value is cut at a character boundary before it is queued.
+    void longPropertyValuesAreCut()
+    {
+        LoopbackIngestion server;
+        QVERIFY(server.listen());
+        auto client = clientFor(server.baseUrl());
+        const QString a = QStringLiteral("a");
+        client->trackEvent(QStringLiteral("long"),
+                           {{"plain", AnyCodableValue::string(QString(u'x').repeated(300))},
+                            {"emoji", AnyCodableValue::string(a.repeated(199) + u"😀😀")},
+                            {"mark", AnyCodableValue::string(a.repeated(198) + u"e\u0301\u0301")},
+                            {"short", AnyCodableValue::string(QStringLiteral("Web & Mail"))},
+                            {"count", AnyCodableValue::integer(7)}});
+        track(*client, 0, 1);
+        QVERIFY(flushAndWait(*client));
+
+        QCOMPARE(server.problems, QStringList());
+        QCOMPARE(server.requests.size(), 1);
+        const QJsonObject props = server.requests[0].events()[0][QLatin1String("props")].toObject();
+        QCOMPARE(props[QLatin1String("plain")].toString(), QString(u'x').repeated(200));
+        QCOMPARE(props[QLatin1String("emoji")].toString(), a.repeated(199));
+        QCOMPARE(props[QLatin1String("mark")].toString(), a.repeated(198));
+        QCOMPARE(props[QLatin1String("short")].toString(), QStringLiteral("Web & Mail"));
+        QCOMPARE(props[QLatin1String("count")].toInt(), 7);
     }
 
     void clientErrorDropsTheBatch()
