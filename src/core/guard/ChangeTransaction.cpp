@@ -1,7 +1,7 @@
 #include "core/guard/ChangeTransaction.h"
 
 #include "core/guard/GuardProfile.h"
-#include "core/support/Console.h"
+#include "foundation/Console.h"
 #include "foundation/Timer.h"
 #include "foundation/TimerFactory.h"
 #include "platform/HandlerDatabase.h"
