@@ -2,14 +2,18 @@
 
 #include "core/i18n/AppLanguage.h"
 #include "core/i18n/LanguageManager.h"
+#include "ui/Appearance.h"
 
 #include <QAbstractButton>
 #include <QApplication>
 #include <QCoreApplication>
 #include <QLabel>
 #include <QStringList>
+#include <QTest>
 #include <QTranslator>
 #include <QWidget>
+
+#include <functional>
 
 // Checks that the settings pages' tests share: texts that do not fit, the language with the
 // longest texts, screenshots next to the test binary.
@@ -71,6 +75,32 @@ inline bool saveScreenshot(QWidget &widget, const QString &name)
 {
     settle();
     return widget.grab().save(QCoreApplication::applicationDirPath() + u'/' + name + u".png");
+}
+
+// Shows `page` in every language in turn (`switchTo` makes the change take effect): no text
+// may be cut, and `check` adds the page's own checks. English and the language with the
+// longest texts of `keys` are pictured in light and dark by `shoot`, which is given
+// "<light|dark>_<code>" to name its pictures after.
+inline void forEveryLanguage(QWidget &page, const std::function<void(AppLanguage)> &switchTo,
+                             const QStringList &keys, const std::function<void()> &check,
+                             const std::function<void(const QString &suffix)> &shoot)
+{
+    const AppLanguage longest = longestLanguage(keys);
+    for (const AppLanguage language : AppLanguage::allCases()) {
+        switchTo(language);
+        const QStringList clipped = clippedTexts(page);
+        QVERIFY2(clipped.isEmpty(), qPrintable(language.code() + u": " + clipped.join(u" | ")));
+        if (check)
+            check();
+        if (language != AppLanguage::english && language != longest)
+            continue;
+        for (const AppearanceMode mode : {AppearanceMode::light, AppearanceMode::dark}) {
+            Appearance::apply(mode);
+            settle();
+            shoot(mode.rawValue() + u'_' + language.code());
+        }
+        Appearance::apply(AppearanceMode::system);
+    }
 }
 
 } // namespace PageChecks

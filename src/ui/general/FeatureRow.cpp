@@ -18,14 +18,11 @@ FeatureRow::FeatureRow(LanguageManager &language, const QString &icon, const QSt
     auto *layout = new QHBoxLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);
     layout->setSpacing(12);
-    auto *frame = new QWidget;
-    frame->setFixedWidth(symbolFrame);
-    auto *frameLayout = new QHBoxLayout(frame);
-    frameLayout->setContentsMargins(0, 0, 0, 0);
     auto *symbol = new SymbolLabel(icon, symbolSize);
     symbol->setColour(symbolBlue);
-    frameLayout->addWidget(symbol, 0, Qt::AlignCenter);
-    layout->addWidget(frame, 0, Qt::AlignTop);
+    symbol->setFixedWidth(symbolFrame);
+    symbol->setAlignment(Qt::AlignCenter);
+    layout->addWidget(symbol, 0, Qt::AlignTop);
     auto *text = new LocalizedText(textKey, language);
     text->setWordWrap(true);
     layout->addWidget(text, 1);

@@ -47,12 +47,9 @@ ChangeLogEntryRow::ChangeLogEntryRow(const ChangeLogEntry &entry, Clock &clock,
     auto *layout = new QHBoxLayout(this);
     layout->setContentsMargins(12, 12, 12, 12);
     layout->setSpacing(12);
-    auto *box = new QWidget;
-    box->setFixedWidth(symbolBox);
-    auto *boxLayout = new QVBoxLayout(box);
-    boxLayout->setContentsMargins(0, 0, 0, 0);
-    boxLayout->addWidget(m_symbol, 0, Qt::AlignHCenter | Qt::AlignTop);
-    layout->addWidget(box);
+    m_symbol->setFixedWidth(symbolBox);
+    m_symbol->setAlignment(Qt::AlignCenter);
+    layout->addWidget(m_symbol, 0, Qt::AlignTop);
 
     auto *text = new QVBoxLayout;
     text->setSpacing(4);

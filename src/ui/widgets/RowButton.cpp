@@ -24,12 +24,9 @@ RowButton::RowButton(const QString &symbol, QWidget *parent)
     setFocusPolicy(Qt::StrongFocus);
     m_layout->setContentsMargins(0, 2, 0, 2);
     m_layout->setSpacing(8);
-    auto *box = new QWidget;
-    box->setFixedWidth(symbolBox);
-    auto *boxLayout = new QHBoxLayout(box);
-    boxLayout->setContentsMargins(0, 0, 0, 0);
-    boxLayout->addWidget(m_symbol, 0, Qt::AlignCenter);
-    m_layout->addWidget(box);
+    m_symbol->setFixedWidth(symbolBox);
+    m_symbol->setAlignment(Qt::AlignCenter);
+    m_layout->addWidget(m_symbol, 0, Qt::AlignVCenter);
     m_text->setWordWrap(true);
     m_text->setForegroundRole(QPalette::WindowText);
     m_layout->addWidget(m_text, 1);

@@ -1,8 +1,6 @@
 #include "core/i18n/LanguageManager.h"
 #include "core/settings/SettingsTable.h"
 #include "core/updates/UpdateManager.h"
-#include "core/updates/UpdateSheetPresenter.h"
-#include "core/updates/UpdaterController.h"
 #include "platform/freedesktop/FreedesktopInstallLayout.h"
 
 #include "ConsoleCapture.h"
@@ -12,6 +10,7 @@
 #include "ScriptedPrompter.h"
 #include "Settle.h"
 #include "TempSettings.h"
+#include "UpdateFakes.h"
 
 #include <QDir>
 #include <QFile>
@@ -22,25 +21,6 @@
 using namespace std::chrono_literals;
 
 namespace {
-
-QByteArray feed(const QByteArray &version)
-{
-    return "<?xml version=\"1.0\"?><rss xmlns:sparkle=\"urn:x\"><channel><item>"
-           "<enclosure url=\"http://127.0.0.1/v.tar\" sparkle:version=\""
-           + version + "\"/></item></channel></rss>\n";
-}
-
-struct RecordingController final : UpdaterController {
-    explicit RecordingController(QStringList &calls) : calls(calls) {}
-    void startUpdater() override { calls.append(QStringLiteral("startUpdater")); }
-    void checkForUpdates() override { calls.append(QStringLiteral("checkForUpdates")); }
-    QStringList &calls;
-};
-
-struct RecordingSheet final : UpdateSheetPresenter {
-    void presentUpdateAvailable(const QString &version, bool) override { shown << version; }
-    QStringList shown;
-};
 
 // A manager over a loopback feed, a temporary store, a still clock (09:00 UTC) and fake timers.
 // Its updater only records calls unless the program's own one is asked for.

@@ -8,6 +8,7 @@
 #include "FakeTimerFactory.h"
 #include "PageChecks.h"
 #include "TempSettings.h"
+#include "UrlCatcher.h"
 
 #include <QAccessible>
 #include <QApplication>
@@ -17,26 +18,6 @@
 using namespace std::chrono_literals;
 
 namespace {
-
-// Catches the URLs the page hands to the system.
-class UrlCatcher : public QObject {
-    Q_OBJECT
-public:
-    UrlCatcher()
-    {
-        for (const char *scheme : {"http", "https", "mailto"})
-            QDesktopServices::setUrlHandler(QLatin1String(scheme), this, "open");
-    }
-    ~UrlCatcher() override
-    {
-        for (const char *scheme : {"http", "https", "mailto"})
-            QDesktopServices::unsetUrlHandler(QLatin1String(scheme));
-    }
-    QList<QUrl> opened;
-
-public Q_SLOTS:
-    void open(const QUrl &url) { opened.append(url); }
-};
 
 const AboutView::Links links{QUrl(QStringLiteral("http://127.0.0.1:9/")),
                              QUrl(QStringLiteral("mailto:support@localhost")),
@@ -126,22 +107,14 @@ private Q_SLOTS:
     {
         Rig rig;
         auto view = rig.view();
-        const AppLanguage longest =
-            PageChecks::longestLanguage({"about_description", "about_website", "about_contact",
-                                         "about_support", "feedback_title", "about_rights"});
-        for (const AppLanguage language : AppLanguage::allCases()) {
-            rig.switchLanguage(language);
-            QVERIFY2(PageChecks::clippedTexts(*view).isEmpty(),
-                     qPrintable(PageChecks::clippedTexts(*view).join(u" | ")));
-            if (language != AppLanguage::english && language != longest)
-                continue;
-            for (const AppearanceMode mode : {AppearanceMode::light, AppearanceMode::dark}) {
-                Appearance::apply(mode);
-                QVERIFY(PageChecks::saveScreenshot(*view, u"about_" + mode.rawValue() + u'_'
-                                                              + language.code()));
-            }
-            Appearance::apply(AppearanceMode::system);
-        }
+        PageChecks::forEveryLanguage(
+            *view, [&](AppLanguage language) { rig.switchLanguage(language); },
+            {"about_description", "about_website", "about_contact", "about_support",
+             "feedback_title", "about_rights"},
+            {},
+            [&](const QString &suffix) {
+                QVERIFY(PageChecks::saveScreenshot(*view, u"about_" + suffix));
+            });
     }
 };
 

@@ -6,8 +6,6 @@
 #include "core/updates/UpdateCheckInterval.h"
 #include "core/updates/UpdateManager.h"
 #include "core/updates/UpdateScheduler.h"
-#include "core/updates/UpdateSheetPresenter.h"
-#include "core/updates/UpdaterController.h"
 #include "platform/freedesktop/AutostartLoginItem.h"
 #include "platform/freedesktop/FreedesktopInstallLayout.h"
 #include "ui/Appearance.h"
@@ -21,6 +19,8 @@
 #include "FeedServer.h"
 #include "GuardWorld.h"
 #include "PageChecks.h"
+#include "UpdateFakes.h"
+#include "UrlCatcher.h"
 #include "XdgTree.h"
 
 #include <QAccessible>
@@ -38,39 +38,6 @@ using namespace std::chrono_literals;
 namespace {
 
 constexpr QSize pageSize(549, 550);
-
-QByteArray feed(const QByteArray &version)
-{
-    return "<?xml version=\"1.0\"?><rss xmlns:sparkle=\"urn:x\"><channel><item>"
-           "<enclosure url=\"http://127.0.0.1/v.tar\" sparkle:version=\""
-           + version + "\"/></item></channel></rss>\n";
-}
-
-struct RecordingController final : UpdaterController {
-    explicit RecordingController(QStringList &calls) : calls(calls) {}
-    void startUpdater() override { calls.append(QStringLiteral("startUpdater")); }
-    void checkForUpdates() override { calls.append(QStringLiteral("checkForUpdates")); }
-    QStringList &calls;
-};
-
-struct RecordingSheet final : UpdateSheetPresenter {
-    void presentUpdateAvailable(const QString &version, bool isBrewInstall) override
-    {
-        shown << version + (isBrewInstall ? u" brew" : u"");
-    }
-    QStringList shown;
-};
-
-// Catches the URLs the page hands to the system.
-class UrlCatcher : public QObject {
-    Q_OBJECT
-public:
-    UrlCatcher() { QDesktopServices::setUrlHandler(QStringLiteral("http"), this, "open"); }
-    ~UrlCatcher() override { QDesktopServices::unsetUrlHandler(QStringLiteral("http")); }
-    QList<QUrl> opened;
-public Q_SLOTS:
-    void open(const QUrl &url) { opened.append(url); }
-};
 
 // The page over both guards, a temporary XDG tree for the autostart entry, a loopback feed,
 // and a Homebrew install when asked for.
@@ -441,7 +408,8 @@ private Q_SLOTS:
         rig.server.serve({200, feed("2.0")});
         click(view.checkForUpdatesButton());
         QVERIFY(!view.checkForUpdatesButton()->isEnabled());
-        QTRY_COMPARE(rig.sheet.shown, QStringList{"2.0 brew"});
+        QTRY_COMPARE(rig.sheet.shown, QStringList{"2.0"});
+        QCOMPARE(rig.sheet.brew, QList<bool>{true});
         QVERIFY(view.checkForUpdatesButton()->isEnabled());
         QVERIFY(rig.timers.activeWithInterval(2s).isEmpty());
 
@@ -535,33 +503,19 @@ private Q_SLOTS:
         Rig rig;
         GeneralSettingsView &view = rig.show();
         QScrollArea *scroll = view.findChild<QScrollArea *>();
-        QStringList keys;
-        for (const char *key :
-             {"general_description", "general_feature_1", "general_feature_2", "general_feature_3",
-              "general_feature_4", "general_feature_5", "general_appearance", "general_language",
-              "general_colored_icon", "general_launch_at_login", "general_check_for_updates",
-              "general_update_check_interval", "general_check_at_startup", "general_reset_settings",
-              "general_reset_counters", "general_reset_update_reminder_snooze",
-              "general_delete_logs", "general_support_description", "general_buy_coffee"})
-            keys << QLatin1String(key);
-        const AppLanguage longest = PageChecks::longestLanguage(keys);
-        for (const AppLanguage language : AppLanguage::allCases()) {
-            rig.switchLanguage(language);
-            PageChecks::settle();
-            QWidget *content = scroll->widget();
-            QVERIFY2(content->minimumSizeHint().width() <= scroll->viewport()->width(),
-                     qPrintable(language.code()));
-            QVERIFY2(PageChecks::clippedTexts(*content).isEmpty(),
-                     qPrintable(PageChecks::clippedTexts(*content).join(u" | ")));
-            if (language != AppLanguage::english && language != longest)
-                continue;
-            for (const AppearanceMode mode : {AppearanceMode::light, AppearanceMode::dark}) {
-                Appearance::apply(mode);
-                QVERIFY(PageChecks::saveScreenshot(*content, u"general_" + mode.rawValue() + u'_'
-                                                                 + language.code()));
-            }
-            Appearance::apply(AppearanceMode::system);
-        }
+        QWidget *content = scroll->widget();
+        PageChecks::forEveryLanguage(
+            *content, [&](AppLanguage language) { rig.switchLanguage(language); },
+            {"general_description", "general_feature_1", "general_feature_2", "general_feature_3",
+             "general_feature_4", "general_feature_5", "general_appearance", "general_language",
+             "general_colored_icon", "general_launch_at_login", "general_check_for_updates",
+             "general_update_check_interval", "general_check_at_startup", "general_reset_settings",
+             "general_reset_counters", "general_reset_update_reminder_snooze",
+             "general_delete_logs", "general_support_description", "general_buy_coffee"},
+            [&] { QVERIFY(content->minimumSizeHint().width() <= scroll->viewport()->width()); },
+            [&](const QString &suffix) {
+                QVERIFY(PageChecks::saveScreenshot(*content, u"general_" + suffix));
+            });
     }
 };
 

@@ -266,33 +266,28 @@ private Q_SLOTS:
         rig.clock.advance(300);
         const QByteArray records = *rig.settings.store().dataValue(SettingsTable::changeLog.key());
         LogView &view = rig.show();
-        const AppLanguage longest = PageChecks::longestLanguage(
-            {"log_filter_all", "log_filter_browser", "log_filter_email", "log_refresh",
-             "log_export", "log_clear", "log_empty_title", "log_empty_description"});
         QScrollArea *list = view.findChild<QScrollArea *>();
-        for (const AppLanguage language : AppLanguage::allCases()) {
-            rig.language.setCurrentLanguage(language);
-            rig.timers.fire(50ms);
-            QVERIFY2(view.minimumSizeHint().width() <= pageSize.width(),
-                     qPrintable(QString::number(view.minimumSizeHint().width())));
-            QCOMPARE(view.size(), pageSize);
-            QVERIFY2(PageChecks::clippedTexts(view).isEmpty(),
-                     qPrintable(PageChecks::clippedTexts(view).join(u" | ")));
-            QVERIFY(list->widget()->minimumSizeHint().width() <= list->viewport()->width());
-            if (language != AppLanguage::english && language != longest)
-                continue;
-            for (const AppearanceMode mode : {AppearanceMode::light, AppearanceMode::dark}) {
-                Appearance::apply(mode);
-                const QString suffix = mode.rawValue() + u'_' + language.code();
+        PageChecks::forEveryLanguage(
+            view,
+            [&](AppLanguage language) {
+                rig.language.setCurrentLanguage(language);
+                rig.timers.fire(50ms);
+            },
+            {"log_filter_all", "log_filter_browser", "log_filter_email", "log_refresh",
+             "log_export", "log_clear", "log_empty_title", "log_empty_description"},
+            [&] {
+                QVERIFY(view.minimumSizeHint().width() <= pageSize.width());
+                QCOMPARE(view.size(), pageSize);
+                QVERIFY(list->widget()->minimumSizeHint().width() <= list->viewport()->width());
+            },
+            [&](const QString &suffix) {
                 QVERIFY(PageChecks::saveScreenshot(view, u"log_" + suffix));
                 rig.log.clearAllLogs();
                 view.refreshLogs();
                 QVERIFY(PageChecks::saveScreenshot(view, u"log_empty_" + suffix));
                 rig.settings.store().setData(SettingsTable::changeLog.key(), records);
                 view.refreshLogs();
-            }
-            Appearance::apply(AppearanceMode::system);
-        }
+            });
     }
 };
 
