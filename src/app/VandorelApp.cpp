@@ -120,6 +120,9 @@ void VandorelApp::showScenes()
     views.telemetry = m_telemetry.get();
     views.log = &LogManager::shared();
     views.updates = &UpdateManager::shared();
+    views.updateSheet = m_updateSheet.get();
+    m_loginItem = PlatformBackend::createLoginItem(QString::fromUtf8(BuildConfig::appId));
+    views.loginItem = m_loginItem.get();
     views.browserManager = m_browserManager.get();
     views.emailClientManager = m_emailClientManager.get();
     m_scenes = std::make_unique<AppScenes>(views);

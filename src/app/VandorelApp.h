@@ -15,6 +15,7 @@ class EmailClientManager;
 class HandlerDatabase;
 class InstallLayout;
 class LanguageManager;
+class LoginItem;
 class ModalPrompter;
 class SingleInstance;
 class SystemEvents;
@@ -59,6 +60,7 @@ private:
     std::unique_ptr<ModalPrompter> m_prompter;
     std::unique_ptr<UpdateSheetPresenter> m_updateSheet;
     std::unique_ptr<UrlHandOver> m_urlHandOver;
+    std::unique_ptr<LoginItem> m_loginItem;
     std::unique_ptr<HandlerDatabase> m_handlers;
     std::unique_ptr<Clock> m_clock;
     std::unique_ptr<TimerFactory> m_timers;

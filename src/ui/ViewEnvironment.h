@@ -5,11 +5,13 @@ class Clock;
 class EmailClientManager;
 class LanguageManager;
 class LogManager;
+class LoginItem;
 class ModalPrompter;
 class SettingsStore;
 class Telemetry;
 class TimerFactory;
 class UpdateManager;
+class UpdateSheetPresenter;
 class WindowRouter;
 
 // The services every window root and page is handed, wired once at start-up (or by a
@@ -24,6 +26,8 @@ struct ViewEnvironment {
     Telemetry *telemetry = nullptr;
     LogManager *log = nullptr;
     UpdateManager *updates = nullptr;
+    UpdateSheetPresenter *updateSheet = nullptr;
+    LoginItem *loginItem = nullptr;
     BrowserManager *browserManager = nullptr;
     EmailClientManager *emailClientManager = nullptr;
 };

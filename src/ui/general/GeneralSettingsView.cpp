@@ -82,8 +82,8 @@ const ResetRow resetRows[] = {
 
 } // namespace
 
-GeneralSettingsView::GeneralSettingsView(const Services &services, QWidget *parent)
-    : QWidget(parent), m_services(services)
+GeneralSettingsView::GeneralSettingsView(const ViewEnvironment &environment, QWidget *parent)
+    : QWidget(parent), m_env(environment)
 {
     auto *content = new QWidget;
     auto *column = new QVBoxLayout(content);
@@ -122,9 +122,9 @@ QWidget *GeneralSettingsView::makeHeader()
     auto *layout = new QVBoxLayout(header);
     layout->setContentsMargins(0, 0, 0, 0);
     layout->setSpacing(8);
-    layout->addWidget(new ProductHeader(*m_services.language, 64, TextStyle::largeTitle));
+    layout->addWidget(new ProductHeader(*m_env.language, 64, TextStyle::largeTitle));
     layout->addWidget(centredSecondary(
-        new LocalizedText(QStringLiteral("general_description"), *m_services.language)));
+        new LocalizedText(QStringLiteral("general_description"), *m_env.language)));
     return header;
 }
 
@@ -134,7 +134,7 @@ QWidget *GeneralSettingsView::section(const char *titleKey, QVBoxLayout **conten
     auto *layout = new QVBoxLayout(block);
     layout->setContentsMargins(0, 0, 0, 0);
     layout->setSpacing(12);
-    auto *title = new LocalizedText(QLatin1String(titleKey), *m_services.language);
+    auto *title = new LocalizedText(QLatin1String(titleKey), *m_env.language);
     TextStyle::apply(title, TextStyle::headline);
     layout->addWidget(title);
     *content = layout;
@@ -153,7 +153,7 @@ QWidget *GeneralSettingsView::makeFeatures()
     };
     for (const auto &[icon, key] : features)
         content->addWidget(
-            new FeatureRow(*m_services.language, QLatin1String(icon), QLatin1String(key)));
+            new FeatureRow(*m_env.language, QLatin1String(icon), QLatin1String(key)));
     return block;
 }
 
@@ -163,7 +163,7 @@ QWidget *GeneralSettingsView::settingRow(const char *labelKey, QWidget *control)
     auto *layout = new QHBoxLayout(row);
     layout->setContentsMargins(0, 0, 0, 0);
     layout->setSpacing(12);
-    auto *label = new LocalizedText(QLatin1String(labelKey), *m_services.language);
+    auto *label = new LocalizedText(QLatin1String(labelKey), *m_env.language);
     label->setWordWrap(true);
     layout->addWidget(label, 1);
     layout->addWidget(control, 0, Qt::AlignVCenter);
@@ -231,8 +231,8 @@ QWidget *GeneralSettingsView::makeSupport()
     QVBoxLayout *content = nullptr;
     QWidget *block = section("general_support_title", &content);
     content->addWidget(centredSecondary(
-        new LocalizedText(QStringLiteral("general_support_description"), *m_services.language)));
-    m_donation = new BuyMeCoffeeButton(*m_services.language);
+        new LocalizedText(QStringLiteral("general_support_description"), *m_env.language)));
+    m_donation = new BuyMeCoffeeButton(*m_env.language);
     content->addWidget(m_donation, 0, Qt::AlignHCenter);
     return block;
 }
@@ -247,13 +247,13 @@ void GeneralSettingsView::connectControls()
     connect(m_appearance, &SegmentedControl::currentIndexChanged, this,
             &GeneralSettingsView::appearanceChanged);
     connect(m_language, &QComboBox::activated, this, [this](int index) {
-        m_services.language->setCurrentLanguage(AppLanguage::allCases().at(index));
+        m_env.language->setCurrentLanguage(AppLanguage::allCases().at(index));
     });
     connect(m_language, &QComboBox::currentIndexChanged, this, [this](int index) {
         track(QStringLiteral("language"), AppLanguage::allCases().at(index).rawValue());
     });
     connect(m_coloredIcon, &ToggleSwitch::toggled, this, [this](bool on) {
-        m_services.settings->set(SettingsTable::showColoredMenuBarIcon, on);
+        m_env.settings->set(SettingsTable::showColoredMenuBarIcon, on);
         track(QStringLiteral("colored_menu_bar_icon"), on);
     });
     connect(m_launchAtLogin, &ToggleSwitch::toggled, this, [this](bool on) {
@@ -263,7 +263,7 @@ void GeneralSettingsView::connectControls()
 
     connect(m_checkButton, &RowButton::clicked, this, &GeneralSettingsView::checkForUpdates);
     connect(m_interval, &QComboBox::activated, this, [this](int index) {
-        m_services.settings->set(SettingsTable::updateCheckInterval,
+        m_env.settings->set(SettingsTable::updateCheckInterval,
                                  UpdateCheckInterval::allCases().at(index).rawValue());
     });
     connect(m_interval, &QComboBox::currentIndexChanged, this, [this](int index) {
@@ -272,7 +272,7 @@ void GeneralSettingsView::connectControls()
                   UpdateCheckInterval::allCases().at(index).rawValue());
     });
     connect(m_checkAtStartup, &ToggleSwitch::toggled, this, [this](bool on) {
-        m_services.settings->set(SettingsTable::checkForUpdatesAtStartup, on);
+        m_env.settings->set(SettingsTable::checkForUpdatesAtStartup, on);
         track(QStringLiteral("check_updates_at_startup"), on);
     });
 
@@ -289,7 +289,7 @@ void GeneralSettingsView::connectControls()
         });
     });
     connect(resetButton(Reset::updateReminderSnooze), &RowButton::clicked, this, [this] {
-        m_services.updates->resetAutoReminderSnooze();
+        m_env.updates->resetAutoReminderSnooze();
         track(QStringLiteral("reset_update_reminder_snooze"), true);
     });
     connect(resetButton(Reset::logs), &RowButton::clicked, this, [this] {
@@ -301,16 +301,15 @@ void GeneralSettingsView::connectControls()
 
     connect(m_donation, &BuyMeCoffeeButton::clicked, this, [this] {
         QDesktopServices::openUrl(AppInfo::donationURL());
-        m_services.telemetry->trackEvent(
+        m_env.telemetry->trackEvent(
             QStringLiteral("support_link_clicked"),
             {{QStringLiteral("source"), QStringLiteral("buy_me_coffee_button")}});
     });
 
-    connect(m_services.settings, &SettingsStore::changed, this,
-            &GeneralSettingsView::showStoredValue);
-    connect(m_services.language, &LanguageManager::currentLanguageChanged, this,
+    connect(m_env.settings, &SettingsStore::changed, this, &GeneralSettingsView::showStoredValue);
+    connect(m_env.language, &LanguageManager::currentLanguageChanged, this,
             &GeneralSettingsView::showLanguage);
-    connect(m_services.language, &LanguageManager::bundleChanged, this,
+    connect(m_env.language, &LanguageManager::bundleChanged, this,
             &GeneralSettingsView::retranslate);
 }
 
@@ -318,7 +317,7 @@ void GeneralSettingsView::connectControls()
 // user's, so the change's own reaction follows.
 void GeneralSettingsView::showStoredValue(const QString &key)
 {
-    const SettingsStore &settings = *m_services.settings;
+    const SettingsStore &settings = *m_env.settings;
     if (key == SettingsTable::showColoredMenuBarIcon.key()) {
         m_coloredIcon->setChecked(settings.value(SettingsTable::showColoredMenuBarIcon));
     } else if (key == SettingsTable::appearanceMode.key()) {
@@ -336,23 +335,23 @@ void GeneralSettingsView::showStoredValue(const QString &key)
 
 void GeneralSettingsView::showLanguage()
 {
-    m_language->setCurrentIndex(int(AppLanguage::Value(m_services.language->currentLanguage())));
+    m_language->setCurrentIndex(int(AppLanguage::Value(m_env.language->currentLanguage())));
 }
 
 void GeneralSettingsView::showEvent(QShowEvent *event)
 {
     QWidget::showEvent(event);
-    m_launchAtLogin->setChecked(m_services.loginItem->isEnabled());
-    const QString raw = *m_services.settings->value(SettingsTable::appearanceMode);
+    m_launchAtLogin->setChecked(m_env.loginItem->isEnabled());
+    const QString raw = *m_env.settings->value(SettingsTable::appearanceMode);
     if (const auto mode = AppearanceMode::fromRawValue(raw))
         Appearance::applyAtNextTurn(*mode);
-    m_services.telemetry->trackScreenView(QLatin1String(screenName));
+    m_env.telemetry->trackScreenView(QLatin1String(screenName));
 }
 
 void GeneralSettingsView::appearanceChanged(int index)
 {
     const AppearanceMode mode = AppearanceMode::allCases().at(index);
-    m_services.settings->set(SettingsTable::appearanceMode, mode.rawValue());
+    m_env.settings->set(SettingsTable::appearanceMode, mode.rawValue());
     Appearance::applyAtNextTurn(mode);
     track(QStringLiteral("appearance"), mode.rawValue());
 }
@@ -361,7 +360,7 @@ void GeneralSettingsView::appearanceChanged(int index)
 // page reads the state again.
 void GeneralSettingsView::setLaunchAtLogin(bool enabled)
 {
-    LoginItem &item = *m_services.loginItem;
+    LoginItem &item = *m_env.loginItem;
     const std::optional<QString> failure = enabled ? item.registerItem() : item.unregisterItem();
     if (failure)
         Console::line(u"Failed to "
@@ -371,12 +370,11 @@ void GeneralSettingsView::setLaunchAtLogin(bool enabled)
 
 void GeneralSettingsView::checkForUpdates()
 {
-    UpdateManager &updates = *m_services.updates;
+    UpdateManager &updates = *m_env.updates;
     setCheckingForUpdates(true);
     if (!updates.isBrewInstall()) {
         updates.checkForUpdatesWithSparkle();
-        m_services.timers->singleShot(updateButtonHold, this,
-                                      [this] { setCheckingForUpdates(false); });
+        m_env.timers->singleShot(updateButtonHold, this, [this] { setCheckingForUpdates(false); });
         return;
     }
     updates.checkForUpdates([page = QPointer<GeneralSettingsView>(this)](
@@ -384,7 +382,7 @@ void GeneralSettingsView::checkForUpdates()
         if (!page)
             return;
         page->setCheckingForUpdates(false);
-        const Services &services = page->m_services;
+        const ViewEnvironment &services = page->m_env;
         if (available && version)
             services.updateSheet->presentUpdateAvailable(*version,
                                                          services.updates->isBrewInstall());
@@ -405,7 +403,7 @@ void GeneralSettingsView::setCheckingForUpdates(bool checking)
 // _confirm_button texts) and runs `action` if the user confirms while the page is there.
 void GeneralSettingsView::confirm(const char *keyPrefix, std::function<void()> action)
 {
-    const LanguageManager &language = *m_services.language;
+    const LanguageManager &language = *m_env.language;
     const QString prefix = QLatin1String(keyPrefix);
     ModalPrompt prompt;
     prompt.title = language.localizedString(prefix + u"_confirm_title");
@@ -413,8 +411,8 @@ void GeneralSettingsView::confirm(const char *keyPrefix, std::function<void()> a
     prompt.buttons = {language.localizedString(prefix + u"_confirm_button"),
                       language.localizedString(QStringLiteral("general_cancel"))};
     prompt.style = ModalPrompt::Style::warning;
-    m_services.prompter->present(prompt, [page = QPointer<GeneralSettingsView>(this),
-                                          action = std::move(action)](int button) {
+    m_env.prompter->present(prompt, [page = QPointer<GeneralSettingsView>(this),
+                                     action = std::move(action)](int button) {
         if (page && button == 0)
             action();
     });
@@ -433,9 +431,9 @@ void GeneralSettingsView::resetGuard(HandlerGuard &guard)
 
 void GeneralSettingsView::resetAllSettings()
 {
-    SettingsStore &settings = *m_services.settings;
-    resetGuard(*m_services.browserManager);
-    resetGuard(*m_services.emailClientManager);
+    SettingsStore &settings = *m_env.settings;
+    resetGuard(*m_env.browserManager);
+    resetGuard(*m_env.emailClientManager);
     settings.set(SettingsTable::showColoredMenuBarIcon, false);
     m_launchAtLogin->setChecked(true);
     setLaunchAtLogin(true);
@@ -444,7 +442,7 @@ void GeneralSettingsView::resetAllSettings()
     settings.set(SettingsTable::checkForUpdatesAtStartup, true);
     settings.set(SettingsTable::updateCheckInterval,
                  UpdateCheckInterval(UpdateCheckInterval::daily).rawValue());
-    LanguageManager &language = *m_services.language;
+    LanguageManager &language = *m_env.language;
     const QString code = LanguageManager::systemLanguageCode(language.preferredLanguages());
     language.setCurrentLanguage(AppLanguage::fromRawValue(code).value_or(AppLanguage::english));
     Console::line(QStringLiteral("✅ All settings reset to default"));
@@ -452,20 +450,20 @@ void GeneralSettingsView::resetAllSettings()
 
 void GeneralSettingsView::resetAllCounters()
 {
-    m_services.browserManager->resetCounters();
-    m_services.emailClientManager->resetCounters();
+    m_env.browserManager->resetCounters();
+    m_env.emailClientManager->resetCounters();
     Console::line(QStringLiteral("✅ All counters reset"));
 }
 
 void GeneralSettingsView::deleteAllLogs()
 {
-    m_services.log->clearAllLogs();
+    m_env.log->clearAllLogs();
     Console::line(QStringLiteral("✅ All logs deleted"));
 }
 
 void GeneralSettingsView::track(const QString &setting, const QString &value)
 {
-    m_services.telemetry->trackSettingsChanged(setting, value);
+    m_env.telemetry->trackSettingsChanged(setting, value);
 }
 
 void GeneralSettingsView::track(const QString &setting, bool value)
@@ -475,7 +473,7 @@ void GeneralSettingsView::track(const QString &setting, bool value)
 
 void GeneralSettingsView::retranslate()
 {
-    const LanguageManager &language = *m_services.language;
+    const LanguageManager &language = *m_env.language;
     const QList<AppearanceMode> modes = AppearanceMode::allCases();
     for (int i = 0; i < modes.size(); ++i)
         m_appearance->setSegmentText(i, language.localizedString(modes.at(i).localizationKey()));

@@ -1,28 +1,18 @@
 #pragma once
 
 #include "core/settings/AppearanceMode.h"
+#include "ui/ViewEnvironment.h"
 
 #include <QPointer>
 #include <QWidget>
 
-class BrowserManager;
 class BusySpinner;
 class BuyMeCoffeeButton;
-class EmailClientManager;
-class LanguageManager;
-class LogManager;
-class LoginItem;
-class ModalPrompter;
 class QComboBox;
 class QVBoxLayout;
 class RowButton;
 class SegmentedControl;
-class SettingsStore;
-class Telemetry;
-class TimerFactory;
 class ToggleSwitch;
-class UpdateManager;
-class UpdateSheetPresenter;
 
 // The first page of the settings window: what the program does, the settings of the whole
 // application (appearance, language, coloured icon, launch at login), the update controls,
@@ -33,24 +23,12 @@ class UpdateSheetPresenter;
 class GeneralSettingsView : public QWidget {
     Q_OBJECT
 public:
-    struct Services {
-        LanguageManager *language = nullptr;
-        SettingsStore *settings = nullptr;
-        TimerFactory *timers = nullptr;
-        ModalPrompter *prompter = nullptr;
-        LogManager *log = nullptr;
-        UpdateManager *updates = nullptr;
-        UpdateSheetPresenter *updateSheet = nullptr;
-        BrowserManager *browserManager = nullptr;
-        EmailClientManager *emailClientManager = nullptr;
-        Telemetry *telemetry = nullptr;
-        LoginItem *loginItem = nullptr;
-    };
-
     static constexpr const char *screenName = "settings_general";
     static constexpr std::chrono::seconds updateButtonHold{2};
 
-    explicit GeneralSettingsView(const Services &services, QWidget *parent = nullptr);
+    // Takes the language, settings, timers, prompter, log, updates, update sheet, both
+    // guards, telemetry and login item of `environment`.
+    explicit GeneralSettingsView(const ViewEnvironment &environment, QWidget *parent = nullptr);
 
     // Sets every application and guard setting back to its default; the targets, the
     // counters, the log and the update reminder snooze stay.
@@ -97,7 +75,7 @@ private:
     void track(const QString &setting, bool value);
     void retranslate();
 
-    Services m_services;
+    ViewEnvironment m_env;
     bool m_isCheckingForUpdates = false;
 
     SegmentedControl *m_appearance = nullptr;

@@ -6,6 +6,8 @@
 #include "ui/WindowRouter.h"
 #include "ui/WindowTitleUpdater.h"
 #include "ui/feedback/FeedbackView.h"
+#include "ui/general/GeneralSettingsView.h"
+#include "ui/log/LogView.h"
 #include "ui/settings/SettingsTabNotifier.h"
 #include "ui/settings/TabButton.h"
 
@@ -56,13 +58,14 @@ QWidget *SettingsView::makePage(SettingsTab tab, const ViewEnvironment &environm
 {
     switch (tab) {
     case SettingsTab::general:
-        return new QWidget;
+        return new GeneralSettingsView(environment);
     case SettingsTab::browser:
         return new QWidget;
     case SettingsTab::email:
         return new QWidget;
     case SettingsTab::log:
-        return new QWidget;
+        return new LogView(*environment.language, *environment.log, *environment.clock,
+                           *environment.timers, *environment.prompter);
     case SettingsTab::feedback:
         return new FeedbackView(FeedbackForm::defaultOptions(), *environment.language,
                                 *environment.prompter);

@@ -78,25 +78,25 @@ struct Rig : GuardWorld {
         email = std::make_unique<EmailClientManager>(environment());
     }
 
-    GeneralSettingsView::Services services()
+    ViewEnvironment views()
     {
-        GeneralSettingsView::Services services;
-        services.language = language.get();
-        services.settings = &settings.store();
-        services.timers = &timers;
-        services.prompter = &alerts;
-        services.log = &log;
-        services.updates = updates.get();
-        services.updateSheet = &sheet;
-        services.browserManager = browser.get();
-        services.emailClientManager = email.get();
-        services.telemetry = &telemetry;
-        services.loginItem = &loginItem;
-        return services;
+        ViewEnvironment views;
+        views.language = language.get();
+        views.settings = &settings.store();
+        views.timers = &timers;
+        views.prompter = &alerts;
+        views.log = &log;
+        views.updates = updates.get();
+        views.updateSheet = &sheet;
+        views.browserManager = browser.get();
+        views.emailClientManager = email.get();
+        views.telemetry = &telemetry;
+        views.loginItem = &loginItem;
+        return views;
     }
     GeneralSettingsView &show()
     {
-        view = std::make_unique<GeneralSettingsView>(services());
+        view = std::make_unique<GeneralSettingsView>(views());
         view->resize(pageSize);
         view->show();
         static_cast<void>(QTest::qWaitForWindowExposed(view.get()));
@@ -312,7 +312,7 @@ private Q_SLOTS:
     {
         Rig rig;
         rig.settings.store().setString(SettingsTable::appearanceMode.key(), QStringLiteral("dark"));
-        auto hidden = std::make_unique<GeneralSettingsView>(rig.services());
+        auto hidden = std::make_unique<GeneralSettingsView>(rig.views());
         PageChecks::settle();
         QVERIFY(!appliedDark());
         hidden.reset();

@@ -3,10 +3,8 @@
 #include "ui/settings/SettingsView.h"
 #include "ui/settings/TabButton.h"
 
-#include "FakeTimerFactory.h"
 #include "PageChecks.h"
-#include "ScriptedPrompter.h"
-#include "TempSettings.h"
+#include "ShellWorld.h"
 
 #include <QAccessible>
 #include <QPointer>
@@ -18,12 +16,8 @@ class SettingsViewTest : public QObject {
     Q_OBJECT
 
     struct Rig {
-        TempSettings settings;
-        FakeTimerFactory timers;
-        LanguageManager language{settings.store(), timers, {"en"}};
-        ScriptedPrompter prompter;
-        ViewEnvironment env{&language, &settings.store(), &timers, nullptr, &prompter};
-        SettingsView view{env};
+        ShellWorld shell;
+        SettingsView view{shell.env};
 
         Rig()
         {
@@ -120,9 +114,8 @@ private Q_SLOTS:
         Rig rig;
         const AppLanguage longest = PageChecks::longestLanguage(
             {"tab_general", "tab_browser", "tab_email", "tab_log", "tab_feedback"});
-        rig.language.setCurrentLanguage(longest);
-        rig.timers.fire(std::chrono::milliseconds(50));
-        SettingsView view(rig.env);
+        rig.shell.switchLanguage(longest);
+        SettingsView view(rig.shell.env);
         for (SettingsTab tab : SettingsTab::allCases())
             QVERIFY2(view.tabButton(tab)->sizeHint().width() <= SettingsView::tabColumnWidth,
                      qPrintable(view.tabButton(tab)->title()));

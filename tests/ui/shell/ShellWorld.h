@@ -1,5 +1,6 @@
 #pragma once
 
+#include "FakeLoginItem.h"
 #include "GuardWorld.h"
 #include "core/guard/BrowserManager.h"
 #include "core/guard/EmailClientManager.h"
@@ -27,6 +28,7 @@ struct ShellWorld {
                             if (opener)
                                 opener(id);
                         }};
+    FakeLoginItem loginItem;
     ViewEnvironment env;
 
     ShellWorld()
@@ -42,6 +44,7 @@ struct ShellWorld {
         env.router = &router;
         env.browserManager = &browser;
         env.emailClientManager = &email;
+        env.loginItem = &loginItem;
     }
 
     ~ShellWorld() { LanguageManager::setShared(nullptr); }
