@@ -5,6 +5,7 @@
 #include "ui/Appearance.h"
 
 #include "Screenshot.h"
+#include "Settle.h"
 
 #include <QAbstractButton>
 #include <QApplication>
@@ -21,20 +22,11 @@
 // longest texts, screenshots next to the test binary.
 namespace PageChecks {
 
-// Lets pending layout, palette and style changes reach the widgets.
-inline void settle()
-{
-    for (int round = 0; round < 5; ++round) {
-        QCoreApplication::sendPostedEvents();
-        QCoreApplication::processEvents();
-    }
-}
-
 // The texts of shown labels and buttons that their widget cuts: a wrapping label shorter than
 // its text needs at its width, any other one narrower than its text.
 inline QStringList clippedTexts(const QWidget &root)
 {
-    settle();
+    ::settle();
     QStringList clipped;
     for (const QLabel *label : root.findChildren<QLabel *>()) {
         if (!label->isVisibleTo(&root) || label->text().isEmpty())
@@ -76,7 +68,7 @@ inline AppLanguage longestLanguage(const QStringList &keys)
 // test binary's screenshots folder; false if it failed.
 inline bool saveScreenshot(QWidget &widget, const QString &name)
 {
-    settle();
+    ::settle();
     return ::saveScreenshot(&widget, name);
 }
 
@@ -99,7 +91,7 @@ inline void forEveryLanguage(QWidget &page, const std::function<void(AppLanguage
             continue;
         for (const AppearanceMode mode : {AppearanceMode::light, AppearanceMode::dark}) {
             Appearance::apply(mode);
-            settle();
+            ::settle();
             shoot(mode.rawValue() + u'_' + language.code());
         }
         Appearance::apply(AppearanceMode::system);

@@ -195,7 +195,7 @@ private Q_SLOTS:
         // Cancelled: nothing changes.
         rig.alerts.answerNext(1);
         click(view.resetButton(GeneralSettingsView::Reset::settings));
-        GuardWorld::settle();
+        settle();
         const ModalPrompt &asked = rig.alerts.last();
         QCOMPARE(asked.title, rig.text("general_reset_settings_confirm_title"));
         QCOMPARE(asked.text, rig.text("general_reset_settings_confirm_message"));
@@ -206,7 +206,7 @@ private Q_SLOTS:
 
         rig.alerts.answerNext(0);
         click(view.resetButton(GeneralSettingsView::Reset::settings));
-        GuardWorld::settle();
+        settle();
         for (HandlerGuard *guard : {static_cast<HandlerGuard *>(rig.browser.get()),
                                     static_cast<HandlerGuard *>(rig.email.get())}) {
             QVERIFY(guard->monitoringEnabled());
@@ -280,7 +280,7 @@ private Q_SLOTS:
         rig.alerts.answerNext(1);
         click(view.resetButton(GeneralSettingsView::Reset::counters));
         click(view.resetButton(GeneralSettingsView::Reset::logs));
-        GuardWorld::settle();
+        settle();
         QCOMPARE(rig.alerts.shown().size(), 2);
         QCOMPARE(rig.alerts.shown().at(1).title, rig.text("general_delete_logs_confirm_title"));
         QCOMPARE(rig.browser->changeCount() + rig.email->changeCount(), 7);
@@ -290,7 +290,7 @@ private Q_SLOTS:
         rig.alerts.answerNext(0);
         click(view.resetButton(GeneralSettingsView::Reset::counters));
         click(view.resetButton(GeneralSettingsView::Reset::logs));
-        GuardWorld::settle();
+        settle();
         QCOMPARE(rig.browser->changeCount() + rig.email->changeCount(), 0);
         QVERIFY(rig.log.getAllLogs().isEmpty());
         QVERIFY(rig.console.contains(QStringLiteral("✅ All counters reset")));
@@ -313,7 +313,7 @@ private Q_SLOTS:
         Rig rig;
         rig.settings.store().setString(SettingsTable::appearanceMode.key(), QStringLiteral("dark"));
         auto hidden = std::make_unique<GeneralSettingsView>(rig.views());
-        PageChecks::settle();
+        settle();
         QVERIFY(!appliedDark());
         hidden.reset();
         GeneralSettingsView &view = rig.show();
@@ -333,7 +333,7 @@ private Q_SLOTS:
                                        QStringLiteral("sepia"));
         view.hide();
         view.show();
-        PageChecks::settle();
+        settle();
         QVERIFY(appliedLight());
     }
 
@@ -428,7 +428,7 @@ private Q_SLOTS:
         rig.view.reset();
         rig.server.release();
         QTRY_VERIFY(rig.console.contains(QStringLiteral("✅ No update available")));
-        PageChecks::settle();
+        settle();
         QCOMPARE(rig.alerts.shown().size(), 1);
     }
 

@@ -127,7 +127,7 @@ private Q_SLOTS:
         QCOMPARE(view.rows().size(), 3);
 
         // The relative time keeps itself current; the message stays as it was stored.
-        PageChecks::settle();
+        settle();
         rig.clock.advance(3600);
         QVERIFY(!rig.timers.active().isEmpty());
         for (FakeTimer *timer : rig.timers.active())
@@ -154,10 +154,10 @@ private Q_SLOTS:
         LogView &view = rig.show();
         QCOMPARE(view.rows().size(), 50);
         QScrollBar *bar = view.findChild<QScrollArea *>()->verticalScrollBar();
-        PageChecks::settle();
+        settle();
         bar->setValue(bar->maximum());
         QCOMPARE(view.rows().size(), 100);
-        PageChecks::settle();
+        settle();
         bar->setValue(bar->maximum());
         QCOMPARE(view.rows().size(), 120);
         QCOMPARE(view.rows().last()->messageLabel()->text(),
@@ -214,7 +214,7 @@ private Q_SLOTS:
 
         rig.prompter.answerNext(1);
         QTest::mouseClick(view.clearButton(), Qt::LeftButton);
-        ScriptedPrompter::settle();
+        settle();
         const ModalPrompt &asked = rig.prompter.last();
         QCOMPARE(asked.title, rig.text("log_clear_confirm_title"));
         QCOMPARE(asked.text, rig.text("log_clear_confirm_message"));
@@ -226,7 +226,7 @@ private Q_SLOTS:
 
         rig.prompter.answerNext(0);
         view.clearLogs();
-        ScriptedPrompter::settle();
+        settle();
         QVERIFY(rig.log.getAllLogs().isEmpty());
         QVERIFY(view.emptyState());
         QVERIFY(rig.console.contains(QStringLiteral("🗑️ All logs cleared")));
