@@ -4,7 +4,6 @@
 #include "core/i18n/LanguageManager.h"
 #include "ui/Appearance.h"
 
-#include "Screenshot.h"
 #include "Settle.h"
 
 #include <QAbstractButton>
@@ -64,12 +63,12 @@ inline AppLanguage longestLanguage(const QStringList &keys)
     return longest;
 }
 
-// Saves the widget's picture, once pending changes have reached it, as <name>.png in the
-// test binary's screenshots folder; false if it failed.
+// Saves the widget's picture, once pending changes have reached it, next to the test binary
+// as <name>.png; false if it failed.
 inline bool saveScreenshot(QWidget &widget, const QString &name)
 {
     ::settle();
-    return ::saveScreenshot(&widget, name);
+    return widget.grab().save(QCoreApplication::applicationDirPath() + u'/' + name + u".png");
 }
 
 // Shows `page` in every language in turn (`switchTo` makes the change take effect): no text

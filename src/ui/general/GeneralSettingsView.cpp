@@ -264,7 +264,7 @@ void GeneralSettingsView::connectControls()
     connect(m_checkButton, &RowButton::clicked, this, &GeneralSettingsView::checkForUpdates);
     connect(m_interval, &QComboBox::activated, this, [this](int index) {
         m_env.settings->set(SettingsTable::updateCheckInterval,
-                                 UpdateCheckInterval::allCases().at(index).rawValue());
+                            UpdateCheckInterval::allCases().at(index).rawValue());
     });
     connect(m_interval, &QComboBox::currentIndexChanged, this, [this](int index) {
         if (index >= 0)
