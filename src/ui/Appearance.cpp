@@ -57,6 +57,12 @@ void Appearance::applyAtNextTurn(AppearanceMode mode)
         qApp, [mode] { apply(mode); }, Qt::QueuedConnection);
 }
 
+QPalette Appearance::platformPalette()
+{
+    const std::optional<PlatformLook> &platform = platformLook();
+    return platform ? platform->palette : QApplication::palette();
+}
+
 QPalette Appearance::lightPalette()
 {
     const std::unique_ptr<QStyle> fusion(QStyleFactory::create(QStringLiteral("Fusion")));

@@ -13,6 +13,9 @@ public:
     // Applies `mode` at the next turn of the event loop.
     static void applyAtNextTurn(AppearanceMode mode);
 
+    // The palette of the desktop, whatever look the application has put over it: for what
+    // is drawn on the desktop's own surfaces, such as the tray.
+    static QPalette platformPalette();
     static QPalette lightPalette();
     static QPalette darkPalette();
 };

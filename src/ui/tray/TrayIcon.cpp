@@ -6,6 +6,7 @@
 #include "core/settings/SettingsStore.h"
 #include "core/settings/SettingsTable.h"
 #include "foundation/Console.h"
+#include "ui/Appearance.h"
 #include "ui/tray/ShieldIcon.h"
 
 #include <QApplication>
@@ -25,7 +26,7 @@ TrayIcon::TrayIcon(BrowserManager &browserManager, EmailClientManager &emailClie
         if (key == SettingsTable::showColoredMenuBarIcon.key())
             update();
     });
-    // The plain form is drawn in the palette's text colour.
+    // The plain form is drawn in the desktop palette's text colour.
     qApp->installEventFilter(this);
     connect(&m_tray, &QSystemTrayIcon::activated, this,
             [this](QSystemTrayIcon::ActivationReason reason) {
@@ -93,10 +94,10 @@ bool TrayIcon::eventFilter(QObject *watched, QEvent *event)
 
 void TrayIcon::update()
 {
-    m_tray.setIcon(
-        showColoredMenuBarIcon()
-            ? createMenuBarIcon()
-            : ShieldIcon::make(menuBarIcon(), QApplication::palette().color(QPalette::WindowText)));
+    m_tray.setIcon(showColoredMenuBarIcon()
+                       ? createMenuBarIcon()
+                       : ShieldIcon::make(menuBarIcon(), Appearance::platformPalette().color(
+                                                             QPalette::WindowText)));
     m_tray.setToolTip(toolTip());
 }
 

@@ -14,7 +14,8 @@ class SettingsStore;
 // The program's one permanent surface: a tray icon that shows at a glance whether both
 // guards do their work. Green only when both are protected; one guard that doesn't work
 // makes it red whatever the other does; otherwise a mismatch makes it orange. Plain, the
-// status shows by the shield's shape alone in the colour of the palette's text; coloured,
+// status shows by the shield's shape alone in the text colour of the desktop's palette (a
+// light or dark look chosen in the program does not reach the tray); coloured,
 // in the status colour. It is drawn again whenever a guard, the language or the choice of
 // form changes; the tooltip names the program and each guard's state.
 class TrayIcon : public QObject {

@@ -1,5 +1,6 @@
 #include "ShellWorld.h"
 #include "core/settings/SettingsTable.h"
+#include "ui/Appearance.h"
 #include "ui/Colours.h"
 #include "ui/SymbolTable.h"
 #include "ui/tray/ShieldIcon.h"
@@ -150,6 +151,10 @@ private Q_SLOTS:
         palette.setColor(QPalette::WindowText, QColor(250, 250, 250));
         QApplication::setPalette(palette);
         QCOMPARE(solidColour(tray.icon()), QColor(250, 250, 250));
+        // A look chosen in the program stays off the desktop's tray.
+        Appearance::apply(AppearanceMode::dark);
+        QCOMPARE(solidColour(tray.icon()), QColor(250, 250, 250));
+        Appearance::apply(AppearanceMode::system);
         QApplication::setPalette(QPalette());
     }
 
