@@ -18,7 +18,14 @@ public:
         std::optional<QString> version; // its short version, when known
     };
 
+    // The two kinds of application a guard keeps.
+    enum class Kind { browser, mailClient };
+
     virtual ~HandlerDatabase() = default;
+
+    // The identifiers under which this platform's browsers or mail clients are shipped, in
+    // the order they are tried. An installed one counts without any test of its name.
+    virtual QStringList knownIdentifiers(Kind kind) const = 0;
 
     // The locations of every application that opens URLs of the scheme ("https", "mailto"),
     // the default first.

@@ -4,6 +4,7 @@
 #include <QFile>
 #include <QFileInfo>
 #include <QProcess>
+#include <QRegularExpression>
 
 namespace {
 
@@ -97,6 +98,29 @@ QString XdgTree::entry(const QString &dir, const QString &file, const QByteArray
     content += extra;
     const QString relative = dir + u'/' + file;
     write(relative, content);
+    return path(relative);
+}
+
+QString XdgTree::installFixture(const QString &fixture, const QString &dir, bool installed) const
+{
+    QFile in(fixture);
+    if (!in.open(QIODevice::ReadOnly))
+        return {};
+    const QString text = QString::fromUtf8(in.readAll());
+    static const QRegularExpression exec(QStringLiteral("^(Exec|TryExec)=(\\S+)"),
+                                         QRegularExpression::MultilineOption);
+    QString result;
+    qsizetype last = 0;
+    for (auto it = exec.globalMatch(text); it.hasNext();) {
+        const auto match = it.next();
+        const QString name = match.captured(2).section(u'/', -1);
+        const QString program = installed ? stub(name) : path(QStringLiteral("missing/") + name);
+        result += text.mid(last, match.capturedStart(2) - last) + program;
+        last = match.capturedEnd(2);
+    }
+    result += text.mid(last);
+    const QString relative = dir + u'/' + QFileInfo(fixture).fileName();
+    write(relative, result.toUtf8());
     return path(relative);
 }
 

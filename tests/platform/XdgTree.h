@@ -29,6 +29,10 @@ public:
     // its [Desktop Entry] group. Returns the file's absolute path.
     QString entry(const QString &dir, const QString &file, const QByteArray &mimeTypes,
                   const QByteArray &extra = {}) const;
+    // A copy of a real desktop file (a fixture) at <dir>/<file name>, its Exec and TryExec
+    // programs replaced by stubs, so that GIO counts it as installed; with `installed` false
+    // they point at programs that do not exist. Returns the copy's absolute path.
+    QString installFixture(const QString &fixture, const QString &dir, bool installed = true) const;
     // Runs update-desktop-database on every applications directory of the tree.
     void updateCaches() const;
 

@@ -34,6 +34,7 @@ public:
         m_schemes[scheme] = identifiers;
     }
     void refuse(const QString &scheme) { m_refused.append(scheme); }
+    void setKnown(Kind kind, const QStringList &identifiers) { m_known[kind] = identifiers; }
     QStringList setCalls() const
     {
         QMutexLocker lock(&m_mutex);
@@ -52,6 +53,7 @@ public:
         m_release.release();
     }
 
+    QStringList knownIdentifiers(Kind kind) const override { return m_known.value(kind); }
     QStringList applicationsForScheme(const QString &scheme) const override
     {
         QMutexLocker lock(&m_mutex);
@@ -108,6 +110,7 @@ private:
     mutable QMutex m_mutex;
     QHash<QString, Application> m_apps;
     QHash<QString, QStringList> m_schemes;
+    QHash<Kind, QStringList> m_known;
     QStringList m_refused;
     QStringList m_setCalls;
     bool m_readGone = true;

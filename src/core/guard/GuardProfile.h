@@ -1,6 +1,7 @@
 #pragma once
 
 #include "core/settings/SettingsTable.h"
+#include "platform/HandlerDatabase.h"
 
 #include <QString>
 #include <QStringList>
@@ -29,7 +30,7 @@ struct GuardProfile {
 
     // Detecting installed handlers.
     QStringList registeredSchemes;
-    QStringList knownIdentifiers;
+    HandlerDatabase::Kind applicationKind; // picks the platform's list of known identifiers
     QStringList exclusionWords;
     QStringList keywords;
 

@@ -14,7 +14,7 @@ QList<HandlerRecord> HandlerDetector::detect() const
 {
     QList<HandlerRecord> result;
     QSet<QString> seen;
-    for (const QString &identifier : m_profile.knownIdentifiers) {
+    for (const QString &identifier : m_handlers.knownIdentifiers(m_profile.applicationKind)) {
         const auto record = installedRecord(identifier);
         if (!record || seen.contains(record->bundleIdentifier))
             continue;

@@ -9,9 +9,9 @@
 
 class HandlerDatabase;
 
-// Finds the applications a guard offers as targets: the profile's known identifiers
-// that are installed, then the registered handlers of its schemes whose name looks
-// right. Sorted by name, by code points.
+// Finds the applications a guard offers as targets: the platform's known identifiers of
+// the profile's kind that are installed, then the registered handlers of its schemes whose
+// name looks right. Sorted by name, by code points.
 class HandlerDetector {
 public:
     HandlerDetector(const GuardProfile &profile, const HandlerDatabase &handlers);

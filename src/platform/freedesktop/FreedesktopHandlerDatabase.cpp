@@ -2,6 +2,7 @@
 
 #include "platform/freedesktop/AppStreamVersion.h"
 #include "platform/freedesktop/DesktopFileLocator.h"
+#include "platform/freedesktop/FreedesktopKnownApplications.h"
 #include "platform/freedesktop/KeyFileScanner.h"
 #include "platform/freedesktop/MimeAppsListEditor.h"
 #include "platform/freedesktop/MimeAppsListWriter.h"
@@ -105,6 +106,12 @@ QString FreedesktopHandlerDatabase::mimeTypeForScheme(const QString &scheme)
             return {};
     }
     return QStringLiteral("x-scheme-handler/") + scheme.toLower();
+}
+
+QStringList FreedesktopHandlerDatabase::knownIdentifiers(Kind kind) const
+{
+    return kind == Kind::browser ? FreedesktopKnownApplications::browsers()
+                                 : FreedesktopKnownApplications::mailClients();
 }
 
 QStringList FreedesktopHandlerDatabase::applicationsForScheme(const QString &scheme) const

@@ -18,6 +18,7 @@ public:
         ReadOnlyFileSystem = 30, // EROFS
     };
 
+    QStringList knownIdentifiers(Kind kind) const override;
     QStringList applicationsForScheme(const QString &scheme) const override;
     std::optional<QString> defaultApplicationForScheme(const QString &scheme) const override;
     std::optional<QString> locationForIdentifier(const QString &identifier) const override;

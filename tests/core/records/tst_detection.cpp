@@ -36,6 +36,9 @@ private Q_SLOTS:
     void knownIdentifiersSkipTheNameTestAndAreAnnounced()
     {
         FakeHandlerDatabase db;
+        db.setKnown(HandlerDatabase::Kind::browser,
+                    {"org.mozilla.firefox", "absent", "org.chromium.Chromium"});
+        db.setKnown(HandlerDatabase::Kind::mailClient, {"falkon"});
         db.install("org.chromium.Chromium", QString("Chromium Web Browser"));
         db.install("org.mozilla.firefox", QString("Nightly build")); // no keyword, still known
         db.install("epiphany", QString("Web"));                      // registered, rejected
@@ -53,6 +56,11 @@ private Q_SLOTS:
         // Known hits in list order, one line each; nothing for registered ones.
         QCOMPARE(console.lines(), QStringList({"✅ Found: Nightly build",
                                                "✅ Found: Chromium Web Browser", "📊 Total: 3"}));
+
+        // Each guard takes its own kind's list.
+        console.take();
+        QCOMPARE(HandlerDetector(GuardProfile::email(), db).detect().size(), 1);
+        QCOMPARE(console.lines().first(), QString("✅ Found: Falkon Browser"));
 
         FakeHandlerDatabase empty;
         empty.setHandlers("mailto", {"not-installed"});

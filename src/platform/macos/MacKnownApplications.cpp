@@ -1,0 +1,81 @@
+#include "platform/macos/MacKnownApplications.h"
+
+const QStringList &MacKnownApplications::browsers()
+{
+    static const QStringList ids{
+        "com.apple.Safari",
+        "com.google.Chrome",
+        "com.google.Chrome.beta",
+        "com.google.Chrome.dev",
+        "com.google.Chrome.canary",
+        "org.mozilla.firefox",
+        "org.mozilla.firefoxdeveloperedition",
+        "org.mozilla.nightly",
+        "com.microsoft.edgemac",
+        "com.microsoft.edgemac.Beta",
+        "com.microsoft.edgemac.Dev",
+        "com.microsoft.edgemac.Canary",
+        "com.brave.Browser",
+        "com.brave.Browser.beta",
+        "com.brave.Browser.nightly",
+        "com.vivaldi.Vivaldi",
+        "com.vivaldi.Vivaldi.snapshot",
+        "com.operasoftware.Opera",
+        "com.operasoftware.OperaGX",
+        "com.operasoftware.OperaDeveloper",
+        "company.thebrowser.Browser",
+        "org.chromium.Chromium",
+        "com.kagi.kagimacOS",
+        "com.SigmaOS.Sigma",
+        "com.minbrowser.Min",
+    };
+    return ids;
+}
+
+const QStringList &MacKnownApplications::mailClients()
+{
+    static const QStringList ids{
+        "com.apple.mail",
+        "com.microsoft.Outlook",
+        "com.microsoft.outlook.desktopclient",
+        "org.mozilla.thunderbird",
+        "eu.betterbird.Betterbird",
+        "com.google.Gmail",
+        "com.readdle.smartemail-Mac",
+        "com.freron.MailMate",
+        "com.postbox-inc.postboxapp",
+        "com.airmailapp.airmail-setapp",
+        "it.bloop.airmail2",
+        "com.airmailapp.Airmail5",
+        "com.mailplaneapp.Mailplane",
+        "com.getmailspring.mailspring",
+        "com.canarymail.mac",
+        "com.easilydo.mail.mac",
+        "app.fastmail.JMAP-Demo-App",
+        "com.kiwiforcourt.kiwiformailapp",
+        "com.appsonthemove.mailforgmail",
+        "me.hacx.lettre",
+        "com.tinyspeck.slackmacgap",
+        "com.mailbutler.MailButler",
+        "com.cleanmail.mail",
+        "com.uniboxapp.mac",
+        "com.bloop.Bloop",
+        "io.mimestream.Mimestream",
+        "com.mailbird.Mailbird",
+        "com.polymail.Polymail",
+        "com.nylas.nylas-mail",
+        "com.inboxapp.inbox",
+        "com.newkline.MailTab-for-Gmail",
+        "com.mailplane.Mailplane_3",
+        "com.mailplane.Mailplane_4",
+        "com.microsoft.Office365ServiceV2",
+        "com.tmtapps.emailapp",
+        "com.wavebox.Wavebox",
+        "com.shift.Shift",
+        "com.rambox.Rambox",
+        "com.franz.Franz",
+        "com.electron.mailspring",
+        "net.eagleapp.web",
+    };
+    return ids;
+}
