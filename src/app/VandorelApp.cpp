@@ -47,6 +47,7 @@ VandorelApp::VandorelApp(const Options &options)
     startUpdates();
 
     m_handlers = PlatformBackend::createHandlerDatabase();
+    m_handlers->setDiagnostics(&Console::line);
     m_clock = std::make_unique<SystemClock>();
     m_timers = std::make_unique<QtTimerFactory>();
     m_events = PlatformBackend::createSystemEvents();

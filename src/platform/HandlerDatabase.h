@@ -3,11 +3,13 @@
 #include <QString>
 #include <QStringList>
 
+#include <functional>
 #include <optional>
 
 // What the system knows about applications and the URL schemes they handle.
 // An application is addressed by its location (on freedesktop: the absolute path of its
-// desktop entry) or by its identifier (the desktop file id without ".desktop").
+// desktop entry, or "!" and a program the desktop runs without one) or by its identifier
+// (the desktop file id without ".desktop").
 // Every read is made afresh; nothing is cached across calls.
 class HandlerDatabase {
 public:
@@ -42,4 +44,18 @@ public:
     // Makes the application with this identifier the default for the scheme. Returns 0 on
     // success and a non-zero status otherwise. Safe to call from a worker thread.
     virtual int setDefaultHandler(const QString &scheme, const QString &identifier) = 0;
+
+    // Where the database writes a line that tells why a change failed; nowhere by default.
+    using LineSink = std::function<void(const QString &line)>;
+    void setDiagnostics(LineSink sink) { m_diagnostics = std::move(sink); }
+
+protected:
+    void report(const QString &line) const
+    {
+        if (m_diagnostics && !line.isEmpty())
+            m_diagnostics(line);
+    }
+
+private:
+    LineSink m_diagnostics;
 };

@@ -110,6 +110,11 @@ std::optional<QString> DesktopEntry::execProgram() const
     return firstShellWord(m_exec);
 }
 
+std::optional<QString> DesktopEntry::commandProgram(const QString &commandLine)
+{
+    return firstShellWord(commandLine);
+}
+
 bool DesktopEntry::isLaunchable() const
 {
     if (!m_valid || m_type != QLatin1String("Application"))
@@ -124,19 +129,32 @@ bool DesktopEntry::isLaunchable() const
 
 bool DesktopEntry::programExists(const QString &program)
 {
+    return !programPath(program).isEmpty();
+}
+
+QString DesktopEntry::programPath(const QString &program)
+{
     const auto isExecutableFile = [](const QString &path) {
         const QFileInfo info(path);
         return info.isFile() && info.isExecutable();
     };
     if (program.contains(u'/'))
-        return isExecutableFile(program);
+        return isExecutableFile(program) ? program : QString();
     QString searchPath = qEnvironmentVariable("PATH");
     if (!qEnvironmentVariableIsSet("PATH"))
         searchPath = QStringLiteral("/bin:/usr/bin:.");
     for (const QString &dir : searchPath.split(u':')) {
-        const QString base = dir.isEmpty() ? QStringLiteral(".") : dir;
-        if (isExecutableFile(base + u'/' + program))
-            return true;
+        const QString candidate = (dir.isEmpty() ? QStringLiteral(".") : dir) + u'/' + program;
+        if (isExecutableFile(candidate))
+            return candidate;
     }
-    return false;
+    return {};
+}
+
+bool DesktopEntry::isSameProgram(const QString &a, const QString &b)
+{
+    if (QFileInfo(a).fileName() == QFileInfo(b).fileName())
+        return true;
+    const QString pathA = QFileInfo(programPath(a)).canonicalFilePath();
+    return !pathA.isEmpty() && pathA == QFileInfo(programPath(b)).canonicalFilePath();
 }

@@ -35,6 +35,12 @@ public:
 
     // An executable file at an absolute or relative path, or found on $PATH.
     static bool programExists(const QString &program);
+    // Where that file is, or an empty string.
+    static QString programPath(const QString &program);
+    // The program of a command line, split as a shell would split it.
+    static std::optional<QString> commandProgram(const QString &commandLine);
+    // Whether two programs are one: the same name, or the same file once found.
+    static bool isSameProgram(const QString &a, const QString &b);
 
 private:
     bool m_valid = false;

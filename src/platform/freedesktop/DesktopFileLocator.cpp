@@ -1,6 +1,7 @@
 #include "platform/freedesktop/DesktopFileLocator.h"
 
 #include <QDir>
+#include <QDirIterator>
 #include <QFileInfo>
 
 namespace {
@@ -72,4 +73,35 @@ QString DesktopFileLocator::desktopIdOf(const QString &filePath) const
             return path.sliced(prefix.size()).replace(u'/', u'-');
     }
     return {};
+}
+
+std::optional<DesktopFileLocator::Resolved>
+DesktopFileLocator::entryRunning(const QString &program, const QStringList &preferredIds) const
+{
+    const auto runs = [&](const std::optional<Resolved> &resolved) {
+        if (!resolved)
+            return false;
+        const auto exec = resolved->entry.execProgram();
+        return exec && DesktopEntry::isSameProgram(*exec, program);
+    };
+    for (const QString &id : preferredIds) {
+        if (auto resolved = resolve(id); runs(resolved))
+            return resolved;
+    }
+    QStringList ids;
+    for (const QString &dir : m_dirs) {
+        QDirIterator it(dir, {QStringLiteral("*.desktop")}, QDir::Files,
+                        QDirIterator::Subdirectories);
+        while (it.hasNext()) {
+            const QString id = desktopIdOf(it.next());
+            if (!id.isEmpty() && !ids.contains(id) && !preferredIds.contains(id))
+                ids.append(id);
+        }
+    }
+    ids.sort();
+    for (const QString &id : std::as_const(ids)) {
+        if (auto resolved = resolve(id); runs(resolved))
+            return resolved;
+    }
+    return std::nullopt;
 }

@@ -31,6 +31,10 @@ public:
     std::optional<Resolved> resolve(const QString &desktopId) const;
     // The id of a file inside one of the directories; empty when it lies outside them all.
     QString desktopIdOf(const QString &filePath) const;
+    // The launchable entry whose Exec runs `program`: among `preferredIds` first (in order),
+    // then any entry of the directories (by id).
+    std::optional<Resolved> entryRunning(const QString &program,
+                                         const QStringList &preferredIds) const;
 
 private:
     QStringList m_dirs;

@@ -2,6 +2,7 @@
 
 #include "platform/freedesktop/AppStreamVersion.h"
 #include "platform/freedesktop/DesktopFileLocator.h"
+#include "platform/freedesktop/DesktopLinkStore.h"
 #include "platform/freedesktop/FreedesktopKnownApplications.h"
 #include "platform/freedesktop/KeyFileScanner.h"
 #include "platform/freedesktop/MimeAppsListEditor.h"
@@ -114,6 +115,21 @@ QStringList FreedesktopHandlerDatabase::knownIdentifiers(Kind kind) const
                                  : FreedesktopKnownApplications::mailClients();
 }
 
+namespace {
+
+// The desktop's own setting goes first where the desktop decides the scheme by it.
+std::optional<QString> storeChoice(const QString &scheme, const DesktopFileLocator &locator,
+                                   const MimeAssociations &associations)
+{
+    const auto store = DesktopLinkStore::current();
+    if (!store || !store->decides(scheme))
+        return std::nullopt;
+    return store->choice(scheme, locator,
+                         associations.explicitDefaults() + associations.associated(locator));
+}
+
+} // namespace
+
 QStringList FreedesktopHandlerDatabase::applicationsForScheme(const QString &scheme) const
 {
     const QString mimeType = mimeTypeForScheme(scheme);
@@ -142,12 +158,17 @@ QStringList FreedesktopHandlerDatabase::applicationsForScheme(const QString &sch
             locations.append(resolved->path);
         }
     }
+    if (const auto chosen = storeChoice(scheme, locator, associations)) {
+        locations.removeAll(*chosen);
+        locations.prepend(*chosen);
+    }
     return locations;
 }
 
-// GIO's answer, which is what opens links on the desktop. xdg-mime 1.1.3 differs: it takes a
-// listed default whose file merely exists (a missing TryExec or a malformed entry still wins
-// there), and its fallback to mimeinfo.cache ignores [Removed Associations].
+// GIO's answer, which is what opens links on the desktop, unless the desktop's own setting
+// decides. xdg-mime 1.1.3 differs: it takes a listed default whose file merely exists (a
+// missing TryExec or a malformed entry still wins there), and its fallback to mimeinfo.cache
+// ignores [Removed Associations].
 std::optional<QString>
 FreedesktopHandlerDatabase::defaultApplicationForScheme(const QString &scheme) const
 {
@@ -156,6 +177,8 @@ FreedesktopHandlerDatabase::defaultApplicationForScheme(const QString &scheme) c
         return std::nullopt;
     const DesktopFileLocator locator = currentLocator();
     const MimeAssociations associations = associationsFor(mimeType);
+    if (const auto chosen = storeChoice(scheme, locator, associations))
+        return chosen;
     for (const QString &id : associations.explicitDefaults()) {
         if (const auto resolved = locator.resolve(id))
             return resolved->path;
@@ -182,6 +205,9 @@ FreedesktopHandlerDatabase::locationForIdentifier(const QString &identifier) con
 std::optional<HandlerDatabase::Application>
 FreedesktopHandlerDatabase::applicationAt(const QString &location) const
 {
+    // A program the desktop's setting runs without an entry: known by that name alone.
+    if (location.startsWith(u'!'))
+        return Application{location, std::nullopt, std::nullopt};
     const auto entry = DesktopEntry::read(location);
     if (!entry || !entry->isValid())
         return std::nullopt;
@@ -207,10 +233,20 @@ int FreedesktopHandlerDatabase::setDefaultHandler(const QString &scheme, const Q
     if (mimeType.isEmpty() || !isIdentifier(identifier))
         return InvalidArgument;
     const QString desktopId = identifier + suffix;
-    if (!currentLocator().resolve(desktopId))
+    const auto resolved = currentLocator().resolve(desktopId);
+    if (!resolved)
         return NotInstalled;
 
     const QMutexLocker locker(&writeLock);
+    // Where the desktop decides by its own setting, that is written first; when it can't
+    // name the program, nothing is written.
+    if (const auto store = DesktopLinkStore::current(); store && store->decides(scheme)) {
+        const int storeStatus = store->write(scheme, desktopId, resolved->entry);
+        if (storeStatus != Success) {
+            report(store->failureLine(storeStatus, resolved->entry));
+            return storeStatus;
+        }
+    }
     const QString configHome = XdgDirectories::configHome();
     const QString listPath = configHome + QStringLiteral("/mimeapps.list");
     QList<MimeAppsListEditor::RefusedLine> refused;

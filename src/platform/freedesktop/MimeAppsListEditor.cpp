@@ -2,7 +2,7 @@
 
 #include "platform/freedesktop/KeyFileScanner.h"
 
-MimeAppsListEditor::MimeAppsListEditor(const QByteArray &content)
+MimeAppsListEditor::MimeAppsListEditor(const QByteArray &content, Syntax syntax)
 {
     KeyFileScanner scanner;
     bool underRefusedHeader = false;
@@ -35,6 +35,12 @@ MimeAppsListEditor::MimeAppsListEditor(const QByteArray &content)
             line.valueStart = scanner.rawValue().data() - line.text.constData();
             break;
         case KeyFileScanner::LineKind::refused:
+            if (syntax == Syntax::lenient && line.text.indexOf('=') > 0) {
+                line.kind = Kind::key;
+                line.key = line.text.first(line.text.indexOf('=')).trimmed();
+                line.valueStart = line.text.indexOf('=') + 1;
+                break;
+            }
             line.kind = Kind::refused;
             underRefusedHeader =
                 underRefusedHeader || KeyFileScanner::trimmedStart(line.text).startsWith('[');
@@ -71,6 +77,15 @@ std::optional<QStringList> MimeAppsListEditor::values(const QString &group,
     return KeyFileScanner::splitList(QByteArrayView(line.text).sliced(line.valueStart));
 }
 
+std::optional<QString> MimeAppsListEditor::value(const QString &group, const QString &key) const
+{
+    const QList<qsizetype> lines = keyLines(group.toUtf8(), key.toUtf8());
+    if (lines.isEmpty())
+        return std::nullopt;
+    const Line &line = m_lines[lines.last()];
+    return KeyFileScanner::unescape(line.text.sliced(line.valueStart).trimmed());
+}
+
 QList<QByteArray> MimeAppsListEditor::rawItems(const QString &group, const QString &key) const
 {
     const QList<qsizetype> lines = keyLines(group.toUtf8(), key.toUtf8());
@@ -98,16 +113,9 @@ void MimeAppsListEditor::setValue(const QString &group, const QString &key, cons
     }
     const QByteArray text = keyName + '=' + value;
     const Line added{text, newline(), groupName, Kind::key, keyName, keyName.size() + 1};
-    const qsizetype header = lastGroupHeader(groupName);
-    if (header >= 0) {
-        qsizetype insertAt = header + 1;
-        for (qsizetype i = header + 1; i < m_lines.size() && m_lines[i].group == groupName; ++i) {
-            if (m_lines[i].kind == Kind::key)
-                insertAt = i + 1;
-            else if (m_lines[i].kind != Kind::blank)
-                break;
-        }
-        if (m_lines[insertAt - 1].ending.isEmpty())
+    const qsizetype insertAt = insertionPoint(groupName);
+    if (insertAt >= 0) {
+        if (insertAt > 0 && m_lines[insertAt - 1].ending.isEmpty())
             m_lines[insertAt - 1].ending = newline();
         m_lines.insert(insertAt, added);
         return;
@@ -120,6 +128,26 @@ void MimeAppsListEditor::setValue(const QString &group, const QString &key, cons
     }
     m_lines.append(Line{'[' + groupName + ']', newline(), groupName, Kind::group, {}, 0});
     m_lines.append(added);
+}
+
+// Where a new key of the group goes: after the group's last key line (or its header; for the
+// keys above the first header, at the end of those lines); -1 when the group must be added.
+qsizetype MimeAppsListEditor::insertionPoint(const QByteArray &group) const
+{
+    const qsizetype start = group.isEmpty() ? 0 : lastGroupHeader(group) + 1;
+    if (start == 0 && !group.isEmpty())
+        return -1;
+    qsizetype end = start;
+    qsizetype afterLastKey = -1;
+    for (; end < m_lines.size() && m_lines[end].group == group; ++end) {
+        if (m_lines[end].kind == Kind::key)
+            afterLastKey = end + 1;
+        else if (m_lines[end].kind != Kind::blank)
+            break;
+    }
+    if (afterLastKey >= 0)
+        return afterLastKey;
+    return group.isEmpty() ? end : start;
 }
 
 void MimeAppsListEditor::removeKey(const QString &group, const QString &key)

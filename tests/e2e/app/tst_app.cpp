@@ -193,6 +193,35 @@ private Q_SLOTS:
         QVERIFY(!QFile::exists(settingsPath()));
     }
 
+    // On XFCE and KDE the desktop's own setting decides which browser opens links, whatever
+    // mimeapps.list says.
+    void statusReportsTheDesktopsOwnSetting()
+    {
+        QVERIFY(run(QStringLiteral("xdg-mime"),
+                    {"default", "firefox-esr.desktop", "x-scheme-handler/https"}));
+        QFile helper(QStringLiteral(FIXTURES_DIR "/xfce4/helpers/chromium.desktop"));
+        QVERIFY(helper.open(QIODevice::ReadOnly));
+        m_tree->write(QStringLiteral("share2/xfce4/helpers/chromium.desktop"), helper.readAll());
+        qputenv("XDG_CURRENT_DESKTOP", "XFCE");
+        QCOMPARE(currentId(status(), "browser"), QString("firefox-esr"));
+        QVERIFY(run(QStringLiteral("xdg-settings"),
+                    {"set", "default-web-browser", "chromium.desktop"}));
+        QCOMPARE(currentId(status(), "browser"), QString("chromium"));
+        QCOMPARE(gioDefault("https"), QString("firefox-esr"));
+
+        qputenv("XDG_CURRENT_DESKTOP", "KDE");
+        m_tree->write(QStringLiteral("config/kdeglobals"),
+                      "[General]\nBrowserApplication=!" + m_tree->path("bin/chromium").toUtf8()
+                          + " --incognito\n");
+        QCOMPARE(currentId(status(), "browser"), QString("chromium"));
+        m_tree->write(QStringLiteral("config/kdeglobals"),
+                      "[General]\nBrowserApplication=!elsewhere\n");
+        const QJsonObject current =
+            status().value(u"browser").toObject().value(u"current").toObject();
+        QCOMPARE(current.value(u"name").toString(), QString("Unknown Browser"));
+        QCOMPARE(current.value(u"bundleIdentifier").toString(), QString("!elsewhere"));
+    }
+
     void installedListsAreWhatTheNameRulesGiveOnWhatGioSees()
     {
         // A known identifier, whatever its name; a registered handler whose name the rules
