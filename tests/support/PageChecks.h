@@ -72,9 +72,9 @@ inline bool saveScreenshot(QWidget &widget, const QString &name)
 }
 
 // Shows `page` in every language in turn (`switchTo` makes the change take effect): no text
-// may be cut, and `check` adds the page's own checks. English and the language with the
-// longest texts of `keys` are pictured in light and dark by `shoot`, which is given
-// "<light|dark>_<code>" to name its pictures after.
+// may be cut, and `check` adds the page's own checks. English, Japanese (for the CJK fonts)
+// and the language with the longest texts of `keys` are pictured in light and dark by
+// `shoot`, which is given "<light|dark>_<code>" to name its pictures after.
 inline void forEveryLanguage(QWidget &page, const std::function<void(AppLanguage)> &switchTo,
                              const QStringList &keys, const std::function<void()> &check,
                              const std::function<void(const QString &suffix)> &shoot)
@@ -86,7 +86,8 @@ inline void forEveryLanguage(QWidget &page, const std::function<void(AppLanguage
         QVERIFY2(clipped.isEmpty(), qPrintable(language.code() + u": " + clipped.join(u" | ")));
         if (check)
             check();
-        if (language != AppLanguage::english && language != longest)
+        if (language != AppLanguage::english && language != AppLanguage::japanese
+            && language != longest)
             continue;
         for (const AppearanceMode mode : {AppearanceMode::light, AppearanceMode::dark}) {
             Appearance::apply(mode);
