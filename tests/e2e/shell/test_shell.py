@@ -40,6 +40,12 @@ def has_colour(path, colour, tolerance=24):
                for pixel in pixels(path))
 
 
+def brightness(path):
+    """The mean of all channels of all pixels, 0 to 255."""
+    values = pixels(path)
+    return sum(sum(p) for p in values) / (3 * len(values))
+
+
 def is_grey(path):
     return all(max(p) - min(p) <= 24 for p in pixels(path))
 
@@ -218,11 +224,14 @@ class ShellTest(unittest.TestCase):
         d = self.desktop
         d.defaults({"x-scheme-handler/https": "firefox-esr", "x-scheme-handler/http": "firefox-esr",
                     "x-scheme-handler/mailto": "thunderbird"})
-        # The browser guard switched off, the mail guard on its first start.
-        d.settings("[General]\napp_language=ja\nhasLaunchedBefore=true\nmonitoringEnabled=false\n")
+        # The browser guard switched off, the mail guard on its first start; the dark look,
+        # which the general page applies when it first appears.
+        d.settings("[General]\napp_language=ja\nhasLaunchedBefore=true\nmonitoringEnabled=false\n"
+                   "appearanceMode=dark\n")
         program = d.start_program(BINARY)
         self.addCleanup(program.stop)
         shell = Shell(d, program)
+        icon = pixels(shell.icon_shot("e2e-icon-plain-not-protected"))
         panel, panel_window = shell.open_panel()
         names = [accessible.name(n) for n in accessible.walk(panel)
                  if accessible.role(n) == "push button"]
@@ -249,7 +258,12 @@ class ShellTest(unittest.TestCase):
             shell.shot("e2e-settings-ja-" + raw, place)
         self.assertEqual(len(accessible.windows_named(shell.app, "Vandorel の設定")), 1)
 
-        panel, _ = shell.open_panel()
+        panel, panel_window = shell.open_panel()
+        self.assertLess(brightness(shell.shot("e2e-panel-ja-dark-only",
+                                              d.geometry(panel_window))), 96)
+        shell.panel_shot("e2e-panel-ja-dark", panel_window)
+        # The tray is the desktop's: the program's dark look leaves the icon as it was.
+        self.assertEqual(pixels(shell.icon_shot("e2e-icon-plain-dark-look")), icon)
         accessible.press(shell.row(panel, "終了"))
         self.assertEqual(program.wait_for_exit(), 0)
         shell.popups.close()

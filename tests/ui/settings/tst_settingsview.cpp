@@ -1,9 +1,12 @@
 #include "core/i18n/LanguageManager.h"
+#include "core/settings/SettingsTable.h"
+#include "ui/Appearance.h"
 #include "ui/feedback/FeedbackView.h"
 #include "ui/settings/SettingsView.h"
 #include "ui/settings/TabButton.h"
 
 #include "PageChecks.h"
+#include "Settle.h"
 #include "ShellWorld.h"
 
 #include <QAccessible>
@@ -91,11 +94,6 @@ private Q_SLOTS:
         QTRY_VERIFY(!general);
         QVERIFY(rig.view.page()->isVisible());
         QVERIFY(PageChecks::saveScreenshot(rig.view, QStringLiteral("settings-feedback")));
-        QPalette dark(QColor(0x3a, 0x3a, 0x3a), QColor(0x1e, 0x1e, 0x1e));
-        dark.setColor(QPalette::Base, QColor(0x2a, 0x2a, 0x2a));
-        dark.setColor(QPalette::Highlight, QColor(0x0a, 0x84, 0xff));
-        rig.view.setPalette(dark);
-        QVERIFY(PageChecks::saveScreenshot(rig.view, QStringLiteral("settings-feedback-dark")));
 
         // The same selection again keeps the page; pressing through the accessible action
         // selects like a click.
@@ -119,6 +117,51 @@ private Q_SLOTS:
         for (SettingsTab tab : SettingsTab::allCases())
             QVERIFY2(view.tabButton(tab)->sizeHint().width() <= SettingsView::tabColumnWidth,
                      qPrintable(view.tabButton(tab)->title()));
+    }
+
+    // Every page in its frame, walked by the tabs as a user does, in two languages and both
+    // looks: nothing is cut, and only the general page reports that it was seen (the frame
+    // and the other pages report nothing).
+    void everyPageInItsFrame_data()
+    {
+        QTest::addColumn<QString>("code");
+        QTest::addColumn<QString>("look");
+        for (const char *code : {"de", "ja"}) {
+            for (const char *look : {"light", "dark"})
+                QTest::addRow("%s %s", code, look)
+                    << QString::fromLatin1(code) << QString::fromLatin1(look);
+        }
+    }
+
+    void everyPageInItsFrame()
+    {
+        QFETCH(QString, code);
+        QFETCH(QString, look);
+        ShellWorld shell;
+        shell.switchLanguage(*AppLanguage::fromRawValue(code));
+        // The general page applies the stored look when it appears, as in the program.
+        shell.env.settings->set(SettingsTable::appearanceMode, look);
+        RecordingTelemetry &telemetry = shell.world.telemetry;
+        telemetry.take();
+        SettingsView view(shell.env);
+        view.show();
+        QVERIFY(QTest::qWaitForWindowExposed(&view));
+        const QList<SettingsTab> walk{SettingsTab::browser, SettingsTab::email, SettingsTab::log,
+                                      SettingsTab::feedback, SettingsTab::general};
+        for (SettingsTab tab : walk) {
+            QTest::mouseClick(view.tabButton(tab), Qt::LeftButton);
+            settle();
+            QCOMPARE(view.palette().color(QPalette::Window).lightness() < 128, look == "dark");
+            const QStringList clipped = PageChecks::clippedTexts(view);
+            QVERIFY2(clipped.isEmpty(), qPrintable(tab.rawValue() + u": " + clipped.join(u" | ")));
+            QVERIFY(PageChecks::saveScreenshot(view, u"settings-" + code + u'-' + look + u'-'
+                                                         + tab.rawValue()));
+        }
+        QStringList views = telemetry.calls();
+        views.removeIf([](const QString &call) { return !call.startsWith(u"trackScreenView"); });
+        QCOMPARE(views, QStringList(2, QStringLiteral("trackScreenView(settings_general)")));
+        view.close();
+        Appearance::apply(AppearanceMode::system);
     }
 
     void textThatNamesNoTabShowsTheGeneralPageWithNoTabMarked()
