@@ -10,6 +10,7 @@
 #include "ui/feedback/FeedbackTextBox.h"
 #include "ui/feedback/MoodButton.h"
 #include "ui/widgets/BusySpinner.h"
+#include "ui/widgets/ProminentButton.h"
 
 #include <QHBoxLayout>
 #include <QPainter>
@@ -185,7 +186,7 @@ QWidget *FeedbackView::makeSendRow()
     auto *layout = new QHBoxLayout(row);
     layout->setContentsMargins(0, 0, 0, 0);
     layout->addStretch();
-    m_sendButton = new QPushButton;
+    m_sendButton = new ProminentButton;
     m_sendButton->setDefault(true);
     m_sendButton->setMinimumWidth(120);
     m_sendButton->setIconSize(QSize(spinnerSize, spinnerSize));
@@ -330,25 +331,6 @@ void FeedbackView::applyColours()
     QPalette counterPalette = m_counter->palette();
     counterPalette.setColor(QPalette::WindowText, counterColour);
     m_counter->setPalette(counterPalette);
-
-    // The prominent button: solid accent, and a faint control look while disabled.
-    QColor pressed = colours.color(QPalette::Highlight).darker(115);
-    QColor disabledText = colours.color(QPalette::WindowText);
-    disabledText.setAlphaF(0.35f);
-    QColor disabledFill = colours.color(QPalette::WindowText);
-    disabledFill.setAlphaF(0.08f);
-    const QString style =
-        QStringLiteral("QPushButton { background: %1; color: %2; border: none; border-radius: 6px;"
-                       " padding: 6px 18px; }"
-                       " QPushButton:pressed { background: %3; }"
-                       " QPushButton:disabled { background: %4; color: %5; }");
-    const QString next =
-        style.arg(colours.color(QPalette::Highlight).name(QColor::HexArgb),
-                  colours.color(QPalette::HighlightedText).name(QColor::HexArgb),
-                  pressed.name(QColor::HexArgb), disabledFill.name(QColor::HexArgb),
-                  disabledText.name(QColor::HexArgb));
-    if (m_sendButton->styleSheet() != next)
-        m_sendButton->setStyleSheet(next);
 }
 
 QString FeedbackView::text(const char *key) const
