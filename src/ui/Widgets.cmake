@@ -2,6 +2,7 @@
 # symbol, a relative time.
 target_sources(vandorel_ui PRIVATE
   widgets/BusySpinner.h widgets/BusySpinner.cpp
+  widgets/PageScrollArea.h widgets/PageScrollArea.cpp
   widgets/ProminentButton.h widgets/ProminentButton.cpp
   widgets/RelativeTimeLabel.h widgets/RelativeTimeLabel.cpp
   widgets/SymbolGroupBox.h widgets/SymbolGroupBox.cpp

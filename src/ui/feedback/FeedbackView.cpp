@@ -10,6 +10,7 @@
 #include "ui/feedback/FeedbackTextBox.h"
 #include "ui/feedback/MoodButton.h"
 #include "ui/widgets/BusySpinner.h"
+#include "ui/widgets/PageScrollArea.h"
 #include "ui/widgets/ProminentButton.h"
 
 #include <QHBoxLayout>
@@ -17,7 +18,6 @@
 #include <QPlainTextEdit>
 #include <QPointer>
 #include <QPushButton>
-#include <QScrollArea>
 #include <QShowEvent>
 #include <QTextCursor>
 #include <QVBoxLayout>
@@ -78,14 +78,7 @@ FeedbackView::FeedbackView(FeedbackForm::Options options, LanguageManager &langu
     contentLayout->addWidget(column, 1);
     contentLayout->addStretch();
 
-    auto *scroll = new QScrollArea;
-    scroll->setFrameShape(QFrame::NoFrame);
-    scroll->setWidgetResizable(true);
-    scroll->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
-    scroll->setWidget(content);
-    auto *layout = new QVBoxLayout(this);
-    layout->setContentsMargins(0, 0, 0, 0);
-    layout->addWidget(scroll);
+    PageScrollArea::fill(this, content);
 
     m_spinner.setStartValue(0.0);
     m_spinner.setEndValue(360.0);

@@ -9,6 +9,7 @@
 #include "ui/LocalizedText.h"
 #include "ui/SymbolTable.h"
 #include "ui/widgets/BusySpinner.h"
+#include "ui/widgets/PageScrollArea.h"
 #include "ui/widgets/ProminentButton.h"
 #include "ui/widgets/RelativeTimeLabel.h"
 #include "ui/widgets/SymbolGroupBox.h"
@@ -19,7 +20,6 @@
 #include <QEvent>
 #include <QHBoxLayout>
 #include <QPushButton>
-#include <QScrollArea>
 #include <QShowEvent>
 #include <QSignalBlocker>
 #include <QVBoxLayout>
@@ -95,14 +95,7 @@ GuardSettingsView::GuardSettingsView(const GuardPageProfile &profile, HandlerGua
         column->addWidget(section);
     column->addStretch();
 
-    auto *scroll = new QScrollArea;
-    scroll->setFrameShape(QFrame::NoFrame);
-    scroll->setWidgetResizable(true);
-    scroll->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
-    scroll->setWidget(content);
-    auto *layout = new QVBoxLayout(this);
-    layout->setContentsMargins(0, 0, 0, 0);
-    layout->addWidget(scroll);
+    PageScrollArea::fill(this, content);
 
     connect(&m_guard, &HandlerGuard::objectWillChange, this, &GuardSettingsView::showGuard);
     connect(&m_services.language, &LanguageManager::bundleChanged, this,

@@ -8,6 +8,7 @@
 #include "ConsoleCapture.h"
 #include "FakeTimerFactory.h"
 #include "InstantAnimations.h"
+#include "Screens.h"
 #include "ScriptedPrompter.h"
 #include "TempSettings.h"
 
@@ -89,14 +90,6 @@ int mostSaturation(QWidget *widget)
     return most;
 }
 
-QPalette darkPalette()
-{
-    QPalette dark(QColor(0x3a, 0x3a, 0x3a), QColor(0x1e, 0x1e, 0x1e));
-    dark.setColor(QPalette::Base, QColor(0x2a, 0x2a, 0x2a));
-    dark.setColor(QPalette::Highlight, QColor(0x0a, 0x84, 0xff));
-    return dark;
-}
-
 } // namespace
 
 class FeedbackViewTest : public QObject {
@@ -105,9 +98,7 @@ private Q_SLOTS:
     void initTestCase()
     {
         InstantAnimations::install();
-        const QFontMetrics metrics(QApplication::font());
-        QVERIFY2(metrics.horizontalAdvance("iiii") < metrics.horizontalAdvance("WWWW"),
-                 "no real font: screenshots would show boxes");
+        QVERIFY2(Screens::hasRealFont(), "no real font: screenshots would show boxes");
     }
 
     void typingStopsAtAThousandCharacters_data()
@@ -255,7 +246,7 @@ private Q_SLOTS:
         QFETCH(bool, dark);
         Rig rig;
         if (dark)
-            rig.view->setPalette(darkPalette());
+            rig.view->setPalette(Screens::darkPalette());
         rig.click(rig.view->tagButton(FeedbackTag::idea));
         rig.click(rig.view->moodButton(3));
         QEnterEvent enter(QPointF(5, 5), QPointF(5, 5), QPointF(5, 5));

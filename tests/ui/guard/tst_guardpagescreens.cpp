@@ -1,4 +1,5 @@
 #include "GuardPageRig.h"
+#include "Screens.h"
 #include "core/i18n/AppLanguage.h"
 
 #include <QAbstractButton>
@@ -13,15 +14,6 @@
 using namespace std::chrono_literals;
 
 namespace {
-
-QPalette darkPalette()
-{
-    QPalette dark(QColor(0x3a, 0x3a, 0x3a), QColor(0x1e, 0x1e, 0x1e));
-    dark.setColor(QPalette::Base, QColor(0x2a, 0x2a, 0x2a));
-    dark.setColor(QPalette::Highlight, QColor(0x0a, 0x84, 0xff));
-    dark.setColor(QPalette::PlaceholderText, QColor(0x98, 0x98, 0x9d));
-    return dark;
-}
 
 // Texts and controls that show less than they need: a label without wrapping narrower than
 // its text, a button or picker narrower than its least size.
@@ -52,9 +44,7 @@ class GuardPageScreensTest : public QObject {
 private Q_SLOTS:
     void initTestCase()
     {
-        const QFontMetrics metrics(QApplication::font());
-        QVERIFY2(metrics.horizontalAdvance("iiii") < metrics.horizontalAdvance("WWWW"),
-                 "no real font: screenshots would show boxes");
+        QVERIFY2(Screens::hasRealFont(), "no real font: screenshots would show boxes");
         QVERIFY2(QFontDatabase::families().join(u',').contains("CJK"),
                  "no CJK font (fonts-noto-cjk): Japanese would show boxes");
         QDir().mkpath(directory());
@@ -105,7 +95,7 @@ private Q_SLOTS:
         else
             page = std::make_unique<BrowserSettingsView>(*rig.browser, rig.services());
         if (dark)
-            page->setPalette(darkPalette());
+            page->setPalette(Screens::darkPalette());
         page->resize(700, 550);
         page->show();
         QVERIFY(QTest::qWaitForWindowExposed(page.get()));
