@@ -5,6 +5,7 @@
 #include "core/guard/HandlerGuard.h"
 #include "core/guard/SnoozeDuration.h"
 #include "core/i18n/LanguageManager.h"
+#include "platform/ModalPrompter.h"
 #include "ui/Colours.h"
 #include "ui/LocalizedText.h"
 #include "ui/SymbolTable.h"
@@ -481,9 +482,17 @@ void GuardSettingsView::selectEntry(int index)
     m_guard.setTarget(m_selection);
 }
 
+// The count is read after the refresh, so it holds what the refresh found.
 void GuardSettingsView::refresh()
 {
     m_guard.refresh();
+    const LanguageManager &language = m_services.language;
+    ModalPrompt prompt;
+    prompt.title = language.localizedString(keyText(m_profile.refreshAlertTitleKey));
+    prompt.text = language.localizedFormat(keyText(m_profile.refreshAlertMessageKey),
+                                           {qint64(m_guard.installed().size())});
+    prompt.buttons = {language.localizedString(keyText(m_profile.okKey))};
+    m_services.prompter.present(prompt, [](int) {});
 }
 
 // --- texts and colours ---------------------------------------------------------------------------

@@ -12,6 +12,7 @@
 class Clock;
 class HandlerGuard;
 class LanguageManager;
+class ModalPrompter;
 class QComboBox;
 class QLabel;
 class QPushButton;
@@ -32,6 +33,7 @@ public:
         LanguageManager &language;
         Clock &clock;
         TimerFactory &timers;
+        ModalPrompter &prompter;
     };
 
     GuardSettingsView(const GuardPageProfile &profile, HandlerGuard &guard,

@@ -2,6 +2,7 @@
 
 #include "FakeClock.h"
 #include "FakeTimerFactory.h"
+#include "ScriptedPrompter.h"
 #include "TempSettings.h"
 #include "XdgTree.h"
 #include "core/changelog/LogManager.h"
@@ -19,12 +20,13 @@
 
 // Both guards over a temporary XDG tree with real desktop entries (Firefox and Chromium for
 // web links, Thunderbird and Mailspring for mail, Firefox and Thunderbird the defaults),
-// English texts, and a clock and timers that the test moves.
+// English texts, a clock and timers that the test moves, and prompts that the test answers.
 struct GuardPageRig {
     XdgTree tree; // first: from here on the environment points into it
     TempSettings settings;
     FakeClock clock;
     FakeTimerFactory timers;
+    ScriptedPrompter prompter;
     FreedesktopHandlerDatabase handlers;
     LogManager log{settings.store(), clock};
     LanguageManager language{settings.store(), timers, {"en"}};
@@ -66,7 +68,7 @@ struct GuardPageRig {
                        + " %u\nMimeType=" + mimeTypes + "\n");
     }
 
-    GuardSettingsView::Services services() { return {language, clock, timers}; }
+    GuardSettingsView::Services services() { return {language, clock, timers, prompter}; }
 
     template <typename Page>
     std::unique_ptr<Page> shown(std::unique_ptr<Page> page) const

@@ -15,6 +15,9 @@ using namespace std::chrono_literals;
 
 namespace {
 
+// The page's part of the 700 x 550 settings window, beside the column of tabs.
+constexpr QSize pageSize(550, 550);
+
 // Texts and controls that show less than they need: a label without wrapping narrower than
 // its text, a button or picker narrower than its least size.
 QStringList clipped(const QWidget *page)
@@ -36,8 +39,8 @@ QStringList clipped(const QWidget *page)
 
 } // namespace
 
-// Both pages in their states, light and dark, in English, German and Japanese, at the
-// settings window's size: saved for a look, and checked for clipped texts and for a
+// Both pages in their states, light and dark, in English, German and Japanese, at their
+// size in the settings window: saved for a look, and checked for clipped texts and for a
 // horizontal scroll bar.
 class GuardPageScreensTest : public QObject {
     Q_OBJECT
@@ -96,18 +99,20 @@ private Q_SLOTS:
             page = std::make_unique<BrowserSettingsView>(*rig.browser, rig.services());
         if (dark)
             page->setPalette(Screens::darkPalette());
-        page->resize(700, 550);
+        page->resize(pageSize);
         page->show();
         QVERIFY(QTest::qWaitForWindowExposed(page.get()));
 
+        auto *scroll = page->findChild<QScrollArea *>();
+        QVERIFY(!scroll->horizontalScrollBar()->isVisible());
+        QTRY_VERIFY2(scroll->widget()->width() <= scroll->viewport()->width(),
+                     qPrintable(QStringLiteral("%1 > %2")
+                                    .arg(scroll->widget()->width())
+                                    .arg(scroll->viewport()->width())));
         const QString name = QString::fromLatin1(QTest::currentDataTag());
         QVERIFY(page->grab().save(directory() + u'/' + name + u".png"));
         // The whole column, as it scrolls.
-        auto *scroll = page->findChild<QScrollArea *>();
         QVERIFY(scroll->widget()->grab().save(directory() + u'/' + name + u"-full.png"));
-
-        QVERIFY(!scroll->horizontalScrollBar()->isVisible());
-        QVERIFY(scroll->widget()->width() <= scroll->viewport()->width());
         const QStringList cut = clipped(page.get());
         QVERIFY2(cut.isEmpty(), qPrintable(cut.join(u" | ")));
         if (state == u"changing")

@@ -4,6 +4,7 @@
 #include "ui/widgets/RelativeTimeLabel.h"
 #include "ui/widgets/ToggleSwitch.h"
 
+#include <QAccessible>
 #include <QComboBox>
 #include <QLabel>
 #include <QPushButton>
@@ -117,6 +118,34 @@ private Q_SLOTS:
         QCOMPARE(wake->accessibleName(), rig.text("email_check_on_wake"));
     }
 
+    void everyControlIsNamedForScreenReaders()
+    {
+        GuardPageRig rig;
+        rig.email->setTargetDefaultEmailClient(rig.email->installedEmailClients().first());
+        rig.email->snoozeMonitoring();
+        auto page = rig.emailPage();
+        const QList<std::pair<const char *, QAccessible::Role>> controls{
+            {"refreshButton", QAccessible::Button},
+            {"targetPicker", QAccessible::ComboBox},
+            {"setNowButton", QAccessible::Button},
+            {"monitoringSwitch", QAccessible::CheckBox},
+            {"intervalPicker", QAccessible::ComboBox},
+            {"checkOnLoginSwitch", QAccessible::CheckBox},
+            {"checkOnWakeSwitch", QAccessible::CheckBox},
+            {"checkOnUnlockSwitch", QAccessible::CheckBox},
+            {"snoozePicker", QAccessible::ComboBox},
+            {"resetSnoozeButton", QAccessible::Button}};
+        for (const auto &[name, role] : controls) {
+            QAccessibleInterface *access =
+                QAccessible::queryAccessibleInterface(control(page.get(), name));
+            QCOMPARE(access->role(), role);
+            QVERIFY2(!access->text(QAccessible::Name).isEmpty(), name);
+        }
+        QCOMPARE(QAccessible::queryAccessibleInterface(control(page.get(), "monitoringSwitch"))
+                     ->text(QAccessible::Name),
+                 rig.text("email_enable_monitoring"));
+    }
+
     void showingThePageWritesNoSetting()
     {
         GuardPageRig rig;
@@ -145,14 +174,22 @@ private Q_SLOTS:
         QCOMPARE(actionShown(page.get()), "setNowButton");
     }
 
-    void refreshFindsANewBrowser()
+    void theRefreshAlertCountsWhatTheRefreshFound()
     {
         GuardPageRig rig;
         auto page = rig.browserPage();
         rig.entry("vivaldi", "Vivaldi", "x-scheme-handler/http;x-scheme-handler/https;");
         rig.tree.updateCaches();
         QTest::mouseClick(control<QPushButton>(page.get(), "refreshButton"), Qt::LeftButton);
+        ScriptedPrompter::settle();
+        QCOMPARE(rig.prompter.shown().size(), 1);
+        QCOMPARE(rig.prompter.last().title, rig.text("browser_refresh_alert_title"));
+        QCOMPARE(rig.prompter.last().text,
+                 rig.language.localizedFormat("browser_refresh_alert_message %lld", {3}));
+        QVERIFY(rig.prompter.last().text.contains(u'3'));
+        QCOMPARE(rig.prompter.last().buttons, QStringList{rig.text("browser_ok")});
         QCOMPARE(control<QComboBox>(page.get(), "targetPicker")->count(), 4);
+        QVERIFY(rig.prompter.answer(0));
     }
 
     void statisticsShowTheLastChangeOnlyWhenThereIsOne()
