@@ -234,7 +234,7 @@ QWidget *GuardSettingsView::makeMonitoringSection()
                                    m_services.language);
     QVBoxLayout *column = box->contentLayout();
     m_monitoring = addSwitchRow(column, m_profile.enableMonitoringKey, "monitoringSwitch",
-                                &HandlerGuard::setMonitoringEnabled);
+                                [this](bool on) { m_guard.setMonitoringEnabled(on); });
     m_selectToEnable = text(m_profile.selectToEnableKey, "selectToEnable");
     m_selectToEnable->setWordWrap(true);
     m_orangeWidgets.append(m_selectToEnable);
@@ -256,11 +256,11 @@ QWidget *GuardSettingsView::makeEventSection()
                                    keyText(m_profile.eventMonitoringTitleKey), m_services.language);
     QVBoxLayout *column = box->contentLayout();
     m_checkOnLogin = addSwitchRow(column, m_profile.checkOnLoginKey, "checkOnLoginSwitch",
-                                  &HandlerGuard::setCheckOnLogin);
+                                  [this](bool on) { m_guard.setCheckOnLogin(on); });
     m_checkOnWake = addSwitchRow(column, m_profile.checkOnWakeKey, "checkOnWakeSwitch",
-                                 &HandlerGuard::setCheckOnWake);
+                                 [this](bool on) { m_guard.setCheckOnWake(on); });
     m_checkOnUnlock = addSwitchRow(column, m_profile.checkOnUnlockKey, "checkOnUnlockSwitch",
-                                   &HandlerGuard::setCheckOnUnlock);
+                                   [this](bool on) { m_guard.setCheckOnUnlock(on); });
     for (ToggleSwitch *toggle : {m_checkOnLogin, m_checkOnWake, m_checkOnUnlock})
         m_eventRows.append(toggle->parentWidget());
     return box;
@@ -345,13 +345,12 @@ QWidget *GuardSettingsView::addRow(QVBoxLayout *column, QWidget *leading, QWidge
 }
 
 ToggleSwitch *GuardSettingsView::addSwitchRow(QVBoxLayout *column, const char *key,
-                                              const char *name, void (HandlerGuard::*set)(bool))
+                                              const char *name, std::function<void(bool)> write)
 {
     auto *toggle = new ToggleSwitch;
     toggle->setObjectName(QLatin1String(name));
     m_switchKeys.append({toggle, key});
-    connect(toggle, &QAbstractButton::toggled, &m_guard,
-            [this, set](bool on) { (m_guard.*set)(on); });
+    connect(toggle, &QAbstractButton::toggled, &m_guard, std::move(write));
     addRow(column, text(key), toggle);
     return toggle;
 }

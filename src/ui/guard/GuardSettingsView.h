@@ -6,6 +6,7 @@
 #include <QList>
 #include <QWidget>
 
+#include <functional>
 #include <optional>
 #include <utility>
 
@@ -61,7 +62,7 @@ private:
     QWidget *addRow(QVBoxLayout *column, QWidget *leading, QWidget *trailing,
                     const char *name = nullptr);
     ToggleSwitch *addSwitchRow(QVBoxLayout *column, const char *key, const char *name,
-                               void (HandlerGuard::*set)(bool));
+                               std::function<void(bool)> write);
     QComboBox *makePicker(GuardPageProfile::PickerWidth width, const char *name);
 
     void showGuard();
