@@ -508,10 +508,10 @@ void GuardSettingsView::retranslate()
         const QSignalBlocker quietSnooze(m_snoozePicker);
         m_intervalPicker->clear();
         for (const CheckInterval interval : CheckInterval::allCases())
-            m_intervalPicker->addItem(interval.displayName());
+            m_intervalPicker->addItem(interval.displayName(m_services.language));
         m_snoozePicker->clear();
         for (const SnoozeDuration duration : SnoozeDuration::allCases())
-            m_snoozePicker->addItem(duration.displayName());
+            m_snoozePicker->addItem(duration.displayName(m_services.language));
     }
     fillTargetPicker(true);
     showGuard();

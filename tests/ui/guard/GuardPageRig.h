@@ -2,6 +2,7 @@
 
 #include "FakeClock.h"
 #include "FakeTimerFactory.h"
+#include "RecordingTelemetry.h"
 #include "ScriptedPrompter.h"
 #include "TempSettings.h"
 #include "XdgTree.h"
@@ -27,6 +28,7 @@ struct GuardPageRig {
     FakeClock clock;
     FakeTimerFactory timers;
     ScriptedPrompter prompter;
+    RecordingTelemetry telemetry;
     FreedesktopHandlerDatabase handlers;
     LogManager log{settings.store(), clock};
     LanguageManager language{settings.store(), timers, {"en"}};
@@ -54,6 +56,8 @@ struct GuardPageRig {
         env.clock = &clock;
         env.timers = &timers;
         env.log = &log;
+        env.telemetry = &telemetry;
+        env.texts = &language;
         browser = std::make_unique<BrowserManager>(env);
         email = std::make_unique<EmailClientManager>(env);
     }

@@ -97,16 +97,17 @@ private Q_SLOTS:
         QStringList names;
         QStringList entries;
         for (const CheckInterval each : CheckInterval::allCases()) {
-            names.append(each.displayName());
+            names.append(each.displayName(rig.language));
             entries.append(interval->itemText(int(entries.size())));
         }
         QCOMPARE(entries, names);
-        QVERIFY(choose(interval, CheckInterval(CheckInterval::sixtyMinutes).displayName()));
+        QVERIFY(
+            choose(interval, CheckInterval(CheckInterval::sixtyMinutes).displayName(rig.language)));
         QCOMPARE(rig.email->checkInterval(), CheckInterval::sixtyMinutes);
 
         rig.email->setSnoozeDuration(SnoozeDuration::fourHours);
         QCOMPARE(control<QComboBox>(page.get(), "snoozePicker")->currentText(),
-                 SnoozeDuration(SnoozeDuration::fourHours).displayName());
+                 SnoozeDuration(SnoozeDuration::fourHours).displayName(rig.language));
 
         auto *wake = control<ToggleSwitch>(page.get(), "checkOnWakeSwitch");
         wake->setFocus();
