@@ -9,6 +9,7 @@
 #include <QAbstractButton>
 #include <QApplication>
 #include <QCoreApplication>
+#include <QFontMetrics>
 #include <QLabel>
 #include <QStringList>
 #include <QTest>
@@ -42,6 +43,14 @@ inline QStringList clippedTexts(const QWidget &root)
             clipped.append(button->text());
     }
     return clipped;
+}
+
+// Without fonts every letter is the same box: "iiii" is then as wide as "WWWW".
+inline bool hasRealFont()
+{
+    const QFontMetrics metrics(QApplication::font());
+    return metrics.horizontalAdvance(QStringLiteral("iiii"))
+           < metrics.horizontalAdvance(QStringLiteral("WWWW"));
 }
 
 // The language whose texts for `keys` are longest in all, as drawn in the application font.

@@ -7,6 +7,8 @@
 #include "ui/WindowTitleUpdater.h"
 #include "ui/feedback/FeedbackView.h"
 #include "ui/general/GeneralSettingsView.h"
+#include "ui/guard/BrowserSettingsView.h"
+#include "ui/guard/EmailSettingsView.h"
 #include "ui/log/LogView.h"
 #include "ui/settings/SettingsTabNotifier.h"
 #include "ui/settings/TabButton.h"
@@ -54,15 +56,25 @@ void SettingsView::showEvent(QShowEvent *event)
         Qt::QueuedConnection);
 }
 
+namespace {
+
+GuardSettingsView::Services guardPageServices(const ViewEnvironment &environment)
+{
+    return {*environment.language, *environment.clock, *environment.timers, *environment.prompter};
+}
+
+} // namespace
+
 QWidget *SettingsView::makePage(SettingsTab tab, const ViewEnvironment &environment)
 {
     switch (tab) {
     case SettingsTab::general:
         return new GeneralSettingsView(environment);
     case SettingsTab::browser:
-        return new QWidget;
+        return new BrowserSettingsView(*environment.browserManager, guardPageServices(environment));
     case SettingsTab::email:
-        return new QWidget;
+        return new EmailSettingsView(*environment.emailClientManager,
+                                     guardPageServices(environment));
     case SettingsTab::log:
         return new LogView(*environment.language, *environment.log, *environment.clock,
                            *environment.timers, *environment.prompter);

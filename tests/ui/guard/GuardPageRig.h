@@ -11,6 +11,7 @@
 #include "core/guard/EmailClientManager.h"
 #include "core/i18n/LanguageManager.h"
 #include "platform/freedesktop/FreedesktopHandlerDatabase.h"
+#include "ui/ViewEnvironment.h"
 #include "ui/guard/BrowserSettingsView.h"
 #include "ui/guard/EmailSettingsView.h"
 
@@ -73,6 +74,21 @@ struct GuardPageRig {
     }
 
     GuardSettingsView::Services services() { return {language, clock, timers, prompter}; }
+    // What the settings window hands its pages.
+    ViewEnvironment viewEnvironment()
+    {
+        ViewEnvironment env;
+        env.language = &language;
+        env.settings = &settings.store();
+        env.timers = &timers;
+        env.clock = &clock;
+        env.prompter = &prompter;
+        env.telemetry = &telemetry;
+        env.log = &log;
+        env.browserManager = browser.get();
+        env.emailClientManager = email.get();
+        return env;
+    }
 
     template <typename Page>
     std::unique_ptr<Page> shown(std::unique_ptr<Page> page) const

@@ -1,13 +1,12 @@
 #include "GuardPageRig.h"
-#include "Screens.h"
+#include "PageChecks.h"
 #include "core/i18n/AppLanguage.h"
+#include "core/settings/AppearanceMode.h"
+#include "ui/Appearance.h"
+#include "ui/settings/SettingsView.h"
 
-#include <QAbstractButton>
-#include <QApplication>
 #include <QComboBox>
-#include <QDir>
 #include <QFontDatabase>
-#include <QLabel>
 #include <QScrollArea>
 #include <QScrollBar>
 
@@ -15,70 +14,51 @@ using namespace std::chrono_literals;
 
 namespace {
 
-// The page's part of the 700 x 550 settings window, beside the column of tabs.
-constexpr QSize pageSize(550, 550);
-
-// Texts and controls that show less than they need: a label without wrapping narrower than
-// its text, a button or picker narrower than its least size.
-QStringList clipped(const QWidget *page)
+// Texts that show less than they need, and pickers narrower than their least size.
+QStringList clipped(const QWidget &page)
 {
-    QStringList found;
-    for (const QLabel *label : page->findChildren<QLabel *>()) {
-        if (label->isVisible() && !label->wordWrap() && label->pixmap().isNull()
-            && label->width() < label->sizeHint().width())
-            found.append(label->text());
-    }
-    for (const QWidget *control : page->findChildren<QWidget *>()) {
-        const bool sized = qobject_cast<const QAbstractButton *>(control)
-                           || qobject_cast<const QComboBox *>(control);
-        if (sized && control->isVisible() && control->width() < control->minimumSizeHint().width())
-            found.append(control->objectName());
-    }
+    QStringList found = PageChecks::clippedTexts(page);
+    for (const QComboBox *picker : page.findChildren<QComboBox *>())
+        if (picker->isVisibleTo(&page) && picker->width() < picker->minimumSizeHint().width())
+            found.append(picker->objectName());
     return found;
 }
 
 } // namespace
 
-// Both pages in their states, light and dark, in English, German and Japanese, at their
-// size in the settings window: saved for a look, and checked for clipped texts and for a
-// horizontal scroll bar.
+// Both pages inside the settings window, in each state of the target box, in every
+// language: the column fits the page's width (it scrolls only vertically) and no text is
+// cut. English, German and Japanese are saved in the light and the dark look.
 class GuardPageScreensTest : public QObject {
     Q_OBJECT
 private Q_SLOTS:
     void initTestCase()
     {
-        QVERIFY2(Screens::hasRealFont(), "no real font: screenshots would show boxes");
+        QVERIFY2(PageChecks::hasRealFont(), "no real font: screenshots would show boxes");
         QVERIFY2(QFontDatabase::families().join(u',').contains("CJK"),
                  "no CJK font (fonts-noto-cjk): Japanese would show boxes");
-        QDir().mkpath(directory());
     }
+    void cleanup() { Appearance::apply(AppearanceMode::system); }
 
-    void fitsAtTheWindowSize_data()
+    void fitsInTheSettingsWindow_data()
     {
         QTest::addColumn<bool>("mail");
-        QTest::addColumn<int>("language");
-        QTest::addColumn<bool>("dark");
+        QTest::addColumn<AppLanguage>("language");
         QTest::addColumn<QString>("state");
-        const QList<std::pair<const char *, AppLanguage::Value>> languages{
-            {"en", AppLanguage::english},
-            {"de", AppLanguage::german},
-            {"ja", AppLanguage::japanese}};
         for (const bool mail : {false, true})
-            for (const auto &[code, language] : languages)
-                for (const bool dark : {false, true})
-                    for (const char *state : {"set-now", "changing", "default"})
-                        QTest::addRow("%s-%s-%s-%s", mail ? "email" : "browser", code,
-                                      dark ? "dark" : "light", state)
-                            << mail << int(language) << dark << QString::fromLatin1(state);
+            for (const AppLanguage language : AppLanguage::allCases())
+                for (const char *state : {"set-now", "changing", "default"})
+                    QTest::addRow("%s-%s-%s", mail ? "email" : "browser",
+                                  qPrintable(language.code()), state)
+                        << mail << language << QString::fromLatin1(state);
     }
-    void fitsAtTheWindowSize()
+    void fitsInTheSettingsWindow()
     {
         QFETCH(bool, mail);
-        QFETCH(int, language);
-        QFETCH(bool, dark);
+        QFETCH(AppLanguage, language);
         QFETCH(QString, state);
         GuardPageRig rig;
-        rig.language.setCurrentLanguage(AppLanguage(AppLanguage::Value(language)));
+        rig.language.setCurrentLanguage(language);
         rig.timers.fire(50ms);
         HandlerGuard &guard = mail ? static_cast<HandlerGuard &>(*rig.email)
                                    : static_cast<HandlerGuard &>(*rig.browser);
@@ -92,35 +72,41 @@ private Q_SLOTS:
         if (state == u"changing")
             guard.setDefault(target);
 
-        std::unique_ptr<GuardSettingsView> page;
-        if (mail)
-            page = std::make_unique<EmailSettingsView>(*rig.email, rig.services());
-        else
-            page = std::make_unique<BrowserSettingsView>(*rig.browser, rig.services());
-        if (dark)
-            page->setPalette(Screens::darkPalette());
-        page->resize(pageSize);
-        page->show();
-        QVERIFY(QTest::qWaitForWindowExposed(page.get()));
+        SettingsView view(rig.viewEnvironment());
+        view.setSelectedTab(QLatin1String(mail ? "email" : "browser"));
+        view.show();
+        QVERIFY(QTest::qWaitForWindowExposed(&view));
+        auto *page = qobject_cast<GuardSettingsView *>(view.page());
+        QVERIFY(mail ? qobject_cast<EmailSettingsView *>(page) != nullptr
+                     : qobject_cast<BrowserSettingsView *>(page) != nullptr);
+        QCOMPARE(page->size(), QSize(SettingsView::viewWidth - SettingsView::tabColumnWidth - 1,
+                                     SettingsView::viewHeight));
 
-        auto *scroll = page->findChild<QScrollArea *>();
+        const auto *scroll = page->findChild<QScrollArea *>();
+        settle();
         QVERIFY(!scroll->horizontalScrollBar()->isVisible());
-        QTRY_VERIFY2(scroll->widget()->width() <= scroll->viewport()->width(),
-                     qPrintable(QStringLiteral("%1 > %2")
-                                    .arg(scroll->widget()->width())
-                                    .arg(scroll->viewport()->width())));
-        const QString name = QString::fromLatin1(QTest::currentDataTag());
-        QVERIFY(page->grab().save(directory() + u'/' + name + u".png"));
-        // The whole column, as it scrolls.
-        QVERIFY(scroll->widget()->grab().save(directory() + u'/' + name + u"-full.png"));
-        const QStringList cut = clipped(page.get());
+        QVERIFY2(scroll->widget()->width() <= scroll->viewport()->width(),
+                 qPrintable(QStringLiteral("%1 > %2")
+                                .arg(scroll->widget()->width())
+                                .arg(scroll->viewport()->width())));
+        const QStringList cut = clipped(*page);
         QVERIFY2(cut.isEmpty(), qPrintable(cut.join(u" | ")));
+
+        if (language == AppLanguage::english || language == AppLanguage::german
+            || language == AppLanguage::japanese) {
+            for (const AppearanceMode look : {AppearanceMode::light, AppearanceMode::dark}) {
+                Appearance::apply(look);
+                settle();
+                const QString name =
+                    QString::fromLatin1(QTest::currentDataTag()) + u'-' + look.rawValue();
+                QVERIFY(PageChecks::saveScreenshot(view, name));
+                // The whole column, as it scrolls.
+                QVERIFY(PageChecks::saveScreenshot(*scroll->widget(), name + u"-full"));
+            }
+        }
         if (state == u"changing")
             QTRY_VERIFY(rig.pollTimer(guard));
     }
-
-private:
-    static QString directory() { return QCoreApplication::applicationDirPath() + u"/screens"; }
 };
 
 QTEST_MAIN(GuardPageScreensTest)
