@@ -7,204 +7,71 @@ namespace {
 // Grouped by where the texts show: intervals and snoozes, change alerts, update sheet,
 // feedback page, application menu and windows, tray panel, settings tabs, general page,
 // browser page, mail page, log page, about window.
+const char keyList[] =
+    "interval_daily;interval_every_10_minutes;interval_every_5_minutes;interval_every_hour;"
+    "interval_every_minute;interval_none;snooze_15_minutes;snooze_1_hour;snooze_30_minutes;"
+    "snooze_4_hours;snooze_rest_of_today;alert_browser_changed_message %@ %@;"
+    "alert_browser_changed_title;alert_button_change_back;alert_button_keep %@;"
+    "alert_email_changed_message %@ %@;alert_email_changed_title;update_available_message;"
+    "update_available_title;update_brew_command_hint;update_brew_hint;update_copy_command;"
+    "update_later_button;feedback_description;feedback_error_message;feedback_error_title;"
+    "feedback_question;feedback_send;feedback_sending;feedback_sent_message;"
+    "feedback_sent_title;feedback_tag_cool_app;feedback_tag_idea;feedback_tag_issue;"
+    "feedback_tag_label;feedback_tag_other;feedback_tag_translation;feedback_text_placeholder;"
+    "feedback_title;menu_item_about;menu_item_settings;window_about_title;"
+    "window_settings_title;menu_about;menu_quit;menu_settings;status_default_browser;"
+    "status_default_email;status_mismatch;status_none;status_not_protected;status_protected;"
+    "status_should_be %@;tab_browser;tab_email;tab_feedback;tab_general;tab_log;"
+    "general_appearance;general_appearance_dark;general_appearance_light;"
+    "general_appearance_system;general_buy_coffee;general_cancel;general_check_at_startup;"
+    "general_check_for_updates;general_colored_icon;general_delete_logs;"
+    "general_delete_logs_confirm_button;general_delete_logs_confirm_message;"
+    "general_delete_logs_confirm_title;general_description;general_feature_1;general_feature_2;"
+    "general_feature_3;general_feature_4;general_feature_5;general_features_title;"
+    "general_language;general_launch_at_login;general_ok;general_reset_counters;"
+    "general_reset_counters_confirm_button;general_reset_counters_confirm_message;"
+    "general_reset_counters_confirm_title;general_reset_settings;"
+    "general_reset_settings_confirm_button;general_reset_settings_confirm_message;"
+    "general_reset_settings_confirm_title;general_reset_title;"
+    "general_reset_update_reminder_snooze;general_settings_title;general_support_description;"
+    "general_support_title;general_update_check_interval;general_updates_title;"
+    "update_interval_12h;update_interval_6h;update_interval_daily;update_interval_never;"
+    "update_interval_weekly;update_no_updates_message;update_no_updates_title;"
+    "browser_already_default;browser_bundle_id %@;browser_changes_detected;"
+    "browser_check_interval;browser_check_on_login;browser_check_on_unlock;"
+    "browser_check_on_wake;browser_current;browser_currently_snoozed;browser_enable_monitoring;"
+    "browser_event_monitoring_title;browser_last_change;browser_monitoring_title;"
+    "browser_never_changed;browser_no_browsers;browser_none;browser_none_detected;browser_ok;"
+    "browser_refresh;browser_refresh_alert_message %lld;browser_refresh_alert_title;"
+    "browser_reset_snooze;browser_select_description;browser_select_target;"
+    "browser_select_to_enable;browser_set_now;browser_snooze_description;"
+    "browser_snooze_duration;browser_snooze_title;browser_statistics_title;"
+    "browser_status_title;browser_stop;browser_target_title;browser_waiting_prompt;"
+    "email_already_default;email_bundle_id %@;email_changes_detected;email_check_interval;"
+    "email_check_on_login;email_check_on_unlock;email_check_on_wake;email_current;"
+    "email_currently_snoozed;email_enable_monitoring;email_event_monitoring_title;"
+    "email_last_change;email_monitoring_title;email_never_changed;email_no_clients;email_none;"
+    "email_none_detected;email_ok;email_refresh;email_refresh_alert_message %lld;"
+    "email_refresh_alert_title;email_reset_snooze;email_select_description;email_select_target;"
+    "email_select_to_enable;email_set_now;email_snooze_description;email_snooze_duration;"
+    "email_snooze_title;email_statistics_title;email_status_title;email_stop;"
+    "email_target_title;email_waiting_prompt;log_clear;log_clear_cancel_button;"
+    "log_clear_confirm_button;log_clear_confirm_message;log_clear_confirm_title;"
+    "log_empty_description;log_empty_title;log_export;log_export_filename;log_filter_all;"
+    "log_filter_browser;log_filter_email;log_filter_label;log_refresh;about_contact;"
+    "about_copyright %lld;about_description;about_rights;about_support;about_version;"
+    "about_website;";
+
 QList<CatalogueEntry> makeEntries()
 {
-    return {
-        {QStringLiteral("interval_daily"), {}},
-        {QStringLiteral("interval_every_10_minutes"), {}},
-        {QStringLiteral("interval_every_5_minutes"), {}},
-        {QStringLiteral("interval_every_hour"), {}},
-        {QStringLiteral("interval_every_minute"), {}},
-        {QStringLiteral("interval_none"), {}},
-        {QStringLiteral("snooze_15_minutes"), {}},
-        {QStringLiteral("snooze_1_hour"), {}},
-        {QStringLiteral("snooze_30_minutes"), {}},
-        {QStringLiteral("snooze_4_hours"), {}},
-        {QStringLiteral("snooze_rest_of_today"), {}},
-        {QStringLiteral("alert_browser_changed_message %@ %@"),
-         {QStringLiteral("%@"), QStringLiteral("%@")}},
-        {QStringLiteral("alert_browser_changed_title"), {}},
-        {QStringLiteral("alert_button_change_back"), {}},
-        {QStringLiteral("alert_button_keep %@"), {QStringLiteral("%@")}},
-        {QStringLiteral("alert_email_changed_message %@ %@"),
-         {QStringLiteral("%@"), QStringLiteral("%@")}},
-        {QStringLiteral("alert_email_changed_title"), {}},
-        {QStringLiteral("update_available_message"), {QStringLiteral("%@")}},
-        {QStringLiteral("update_available_title"), {}},
-        {QStringLiteral("update_brew_command_hint"), {}},
-        {QStringLiteral("update_brew_hint"), {}},
-        {QStringLiteral("update_copy_command"), {}},
-        {QStringLiteral("update_later_button"), {}},
-        {QStringLiteral("feedback_description"), {}},
-        {QStringLiteral("feedback_error_message"), {}},
-        {QStringLiteral("feedback_error_title"), {}},
-        {QStringLiteral("feedback_question"), {}},
-        {QStringLiteral("feedback_send"), {}},
-        {QStringLiteral("feedback_sending"), {}},
-        {QStringLiteral("feedback_sent_message"), {}},
-        {QStringLiteral("feedback_sent_title"), {}},
-        {QStringLiteral("feedback_tag_cool_app"), {}},
-        {QStringLiteral("feedback_tag_idea"), {}},
-        {QStringLiteral("feedback_tag_issue"), {}},
-        {QStringLiteral("feedback_tag_label"), {}},
-        {QStringLiteral("feedback_tag_other"), {}},
-        {QStringLiteral("feedback_tag_translation"), {}},
-        {QStringLiteral("feedback_text_placeholder"), {}},
-        {QStringLiteral("feedback_title"), {}},
-        {QStringLiteral("menu_item_about"), {}},
-        {QStringLiteral("menu_item_settings"), {}},
-        {QStringLiteral("window_about_title"), {}},
-        {QStringLiteral("window_settings_title"), {}},
-        {QStringLiteral("menu_about"), {}},
-        {QStringLiteral("menu_quit"), {}},
-        {QStringLiteral("menu_settings"), {}},
-        {QStringLiteral("status_default_browser"), {}},
-        {QStringLiteral("status_default_email"), {}},
-        {QStringLiteral("status_mismatch"), {}},
-        {QStringLiteral("status_none"), {}},
-        {QStringLiteral("status_not_protected"), {}},
-        {QStringLiteral("status_protected"), {}},
-        {QStringLiteral("status_should_be %@"), {QStringLiteral("%@")}},
-        {QStringLiteral("tab_browser"), {}},
-        {QStringLiteral("tab_email"), {}},
-        {QStringLiteral("tab_feedback"), {}},
-        {QStringLiteral("tab_general"), {}},
-        {QStringLiteral("tab_log"), {}},
-        {QStringLiteral("general_appearance"), {}},
-        {QStringLiteral("general_appearance_dark"), {}},
-        {QStringLiteral("general_appearance_light"), {}},
-        {QStringLiteral("general_appearance_system"), {}},
-        {QStringLiteral("general_buy_coffee"), {}},
-        {QStringLiteral("general_cancel"), {}},
-        {QStringLiteral("general_check_at_startup"), {}},
-        {QStringLiteral("general_check_for_updates"), {}},
-        {QStringLiteral("general_colored_icon"), {}},
-        {QStringLiteral("general_delete_logs"), {}},
-        {QStringLiteral("general_delete_logs_confirm_button"), {}},
-        {QStringLiteral("general_delete_logs_confirm_message"), {}},
-        {QStringLiteral("general_delete_logs_confirm_title"), {}},
-        {QStringLiteral("general_description"), {}},
-        {QStringLiteral("general_feature_1"), {}},
-        {QStringLiteral("general_feature_2"), {}},
-        {QStringLiteral("general_feature_3"), {}},
-        {QStringLiteral("general_feature_4"), {}},
-        {QStringLiteral("general_feature_5"), {}},
-        {QStringLiteral("general_features_title"), {}},
-        {QStringLiteral("general_language"), {}},
-        {QStringLiteral("general_launch_at_login"), {}},
-        {QStringLiteral("general_ok"), {}},
-        {QStringLiteral("general_reset_counters"), {}},
-        {QStringLiteral("general_reset_counters_confirm_button"), {}},
-        {QStringLiteral("general_reset_counters_confirm_message"), {}},
-        {QStringLiteral("general_reset_counters_confirm_title"), {}},
-        {QStringLiteral("general_reset_settings"), {}},
-        {QStringLiteral("general_reset_settings_confirm_button"), {}},
-        {QStringLiteral("general_reset_settings_confirm_message"), {}},
-        {QStringLiteral("general_reset_settings_confirm_title"), {}},
-        {QStringLiteral("general_reset_title"), {}},
-        {QStringLiteral("general_reset_update_reminder_snooze"), {}},
-        {QStringLiteral("general_settings_title"), {}},
-        {QStringLiteral("general_support_description"), {}},
-        {QStringLiteral("general_support_title"), {}},
-        {QStringLiteral("general_update_check_interval"), {}},
-        {QStringLiteral("general_updates_title"), {}},
-        {QStringLiteral("update_interval_12h"), {}},
-        {QStringLiteral("update_interval_6h"), {}},
-        {QStringLiteral("update_interval_daily"), {}},
-        {QStringLiteral("update_interval_never"), {}},
-        {QStringLiteral("update_interval_weekly"), {}},
-        {QStringLiteral("update_no_updates_message"), {}},
-        {QStringLiteral("update_no_updates_title"), {}},
-        {QStringLiteral("browser_already_default"), {}},
-        {QStringLiteral("browser_bundle_id %@"), {QStringLiteral("%@")}},
-        {QStringLiteral("browser_changes_detected"), {}},
-        {QStringLiteral("browser_check_interval"), {}},
-        {QStringLiteral("browser_check_on_login"), {}},
-        {QStringLiteral("browser_check_on_unlock"), {}},
-        {QStringLiteral("browser_check_on_wake"), {}},
-        {QStringLiteral("browser_current"), {}},
-        {QStringLiteral("browser_currently_snoozed"), {}},
-        {QStringLiteral("browser_enable_monitoring"), {}},
-        {QStringLiteral("browser_event_monitoring_title"), {}},
-        {QStringLiteral("browser_last_change"), {}},
-        {QStringLiteral("browser_monitoring_title"), {}},
-        {QStringLiteral("browser_never_changed"), {}},
-        {QStringLiteral("browser_no_browsers"), {}},
-        {QStringLiteral("browser_none"), {}},
-        {QStringLiteral("browser_none_detected"), {}},
-        {QStringLiteral("browser_ok"), {}},
-        {QStringLiteral("browser_refresh"), {}},
-        {QStringLiteral("browser_refresh_alert_message %lld"), {QStringLiteral("%lld")}},
-        {QStringLiteral("browser_refresh_alert_title"), {}},
-        {QStringLiteral("browser_reset_snooze"), {}},
-        {QStringLiteral("browser_select_description"), {}},
-        {QStringLiteral("browser_select_target"), {}},
-        {QStringLiteral("browser_select_to_enable"), {}},
-        {QStringLiteral("browser_set_now"), {}},
-        {QStringLiteral("browser_snooze_description"), {}},
-        {QStringLiteral("browser_snooze_duration"), {}},
-        {QStringLiteral("browser_snooze_title"), {}},
-        {QStringLiteral("browser_statistics_title"), {}},
-        {QStringLiteral("browser_status_title"), {}},
-        {QStringLiteral("browser_stop"), {}},
-        {QStringLiteral("browser_target_title"), {}},
-        {QStringLiteral("browser_waiting_prompt"), {}},
-        {QStringLiteral("email_already_default"), {}},
-        {QStringLiteral("email_bundle_id %@"), {QStringLiteral("%@")}},
-        {QStringLiteral("email_changes_detected"), {}},
-        {QStringLiteral("email_check_interval"), {}},
-        {QStringLiteral("email_check_on_login"), {}},
-        {QStringLiteral("email_check_on_unlock"), {}},
-        {QStringLiteral("email_check_on_wake"), {}},
-        {QStringLiteral("email_current"), {}},
-        {QStringLiteral("email_currently_snoozed"), {}},
-        {QStringLiteral("email_enable_monitoring"), {}},
-        {QStringLiteral("email_event_monitoring_title"), {}},
-        {QStringLiteral("email_last_change"), {}},
-        {QStringLiteral("email_monitoring_title"), {}},
-        {QStringLiteral("email_never_changed"), {}},
-        {QStringLiteral("email_no_clients"), {}},
-        {QStringLiteral("email_none"), {}},
-        {QStringLiteral("email_none_detected"), {}},
-        {QStringLiteral("email_ok"), {}},
-        {QStringLiteral("email_refresh"), {}},
-        {QStringLiteral("email_refresh_alert_message %lld"), {QStringLiteral("%lld")}},
-        {QStringLiteral("email_refresh_alert_title"), {}},
-        {QStringLiteral("email_reset_snooze"), {}},
-        {QStringLiteral("email_select_description"), {}},
-        {QStringLiteral("email_select_target"), {}},
-        {QStringLiteral("email_select_to_enable"), {}},
-        {QStringLiteral("email_set_now"), {}},
-        {QStringLiteral("email_snooze_description"), {}},
-        {QStringLiteral("email_snooze_duration"), {}},
-        {QStringLiteral("email_snooze_title"), {}},
-        {QStringLiteral("email_statistics_title"), {}},
-        {QStringLiteral("email_status_title"), {}},
-        {QStringLiteral("email_stop"), {}},
-        {QStringLiteral("email_target_title"), {}},
-        {QStringLiteral("email_waiting_prompt"), {}},
-        {QStringLiteral("log_clear"), {}},
-        {QStringLiteral("log_clear_cancel_button"), {}},
-        {QStringLiteral("log_clear_confirm_button"), {}},
-        {QStringLiteral("log_clear_confirm_message"), {}},
-        {QStringLiteral("log_clear_confirm_title"), {}},
-        {QStringLiteral("log_empty_description"), {}},
-        {QStringLiteral("log_empty_title"), {}},
-        {QStringLiteral("log_export"), {}},
-        {QStringLiteral("log_export_filename"), {}},
-        {QStringLiteral("log_filter_all"), {}},
-        {QStringLiteral("log_filter_browser"), {}},
-        {QStringLiteral("log_filter_email"), {}},
-        {QStringLiteral("log_filter_label"), {}},
-        {QStringLiteral("log_refresh"), {}},
-        {QStringLiteral("about_contact"), {}},
-        {QStringLiteral("about_copyright %lld"), {QStringLiteral("%lld")}},
-        {QStringLiteral("about_description"), {}},
-        {QStringLiteral("about_rights"), {}},
-        {QStringLiteral("about_support"), {}},
-        {QStringLiteral("about_version"), {QStringLiteral("%@")}},
-        {QStringLiteral("about_website"), {}},
-    };
+    QList<CatalogueEntry> entries;
+    for (const QString &key : QString::fromUtf8(keyList).split(u';', Qt::SkipEmptyParts)) {
+        // Two texts show a version their key does not name.
+        const bool hidden = key == u"about_version" || key == u"update_available_message";
+        entries.append(
+            {key, hidden ? QStringList{QStringLiteral("%@")} : StringCatalogue::specifiersIn(key)});
+    }
+    return entries;
 }
 
 } // namespace
@@ -213,15 +80,6 @@ const QList<CatalogueEntry> &StringCatalogue::entries()
 {
     static const QList<CatalogueEntry> all = makeEntries();
     return all;
-}
-
-bool StringCatalogue::contains(const QString &key)
-{
-    for (const CatalogueEntry &entry : entries()) {
-        if (entry.key == key)
-            return true;
-    }
-    return false;
 }
 
 QStringList StringCatalogue::specifiersIn(const QString &text)

@@ -16,7 +16,6 @@ struct CatalogueEntry {
 class StringCatalogue {
 public:
     static const QList<CatalogueEntry> &entries();
-    static bool contains(const QString &key);
 
     // The specifiers of a text in order of appearance, positional forms reduced to their
     // conversion ("%2$@" reads as "%@"); "%%" is no specifier.

@@ -18,29 +18,22 @@ private Q_SLOTS:
         QTest::addColumn<QString>("locale");
         QTest::addColumn<QString>("expected");
         const QDateTime at = now();
-        QTest::newRow("same moment") << at << "en_US"
-                                     << "0 seconds ago";
-        QTest::newRow("seconds") << at.addSecs(-59) << "en_US"
-                                 << "59 seconds ago";
-        QTest::newRow("minutes") << at.addSecs(-61) << "en_US"
-                                 << "1 minute ago";
-        QTest::newRow("hours, truncated") << at.addSecs(-(2 * 3600 + 3599)) << "en_US"
-                                          << "2 hours ago";
-        QTest::newRow("days") << at.addDays(-6) << "en_US"
-                              << "6 days ago";
-        QTest::newRow("weeks") << at.addDays(-20) << "en_US"
-                               << "2 weeks ago";
+        const auto row = [](const char *name, const QDateTime &date, const QString &locale,
+                            const QString &expected) {
+            QTest::newRow(name) << date << locale << expected;
+        };
+        row("same moment", at, "en_US", "0 seconds ago");
+        row("seconds", at.addSecs(-59), "en_US", "59 seconds ago");
+        row("minutes", at.addSecs(-61), "en_US", "1 minute ago");
+        row("hours, truncated", at.addSecs(-(2 * 3600 + 3599)), "en_US", "2 hours ago");
+        row("days", at.addDays(-6), "en_US", "6 days ago");
+        row("weeks", at.addDays(-20), "en_US", "2 weeks ago");
         // Feb 14 to Mar 14 is one calendar month although it is only 28 days.
-        QTest::newRow("calendar month") << at.addMonths(-1) << "en_US"
-                                        << "1 month ago";
-        QTest::newRow("years") << at.addYears(-3).addDays(-40) << "en_US"
-                               << "3 years ago";
-        QTest::newRow("ahead") << at.addSecs(300) << "en_US"
-                               << "in 5 minutes";
-        QTest::newRow("german") << at.addSecs(-7200) << "de_DE"
-                                << "vor 2 Stunden";
-        QTest::newRow("japanese") << at.addSecs(-7200) << "ja_JP"
-                                  << "2 時間前";
+        row("calendar month", at.addMonths(-1), "en_US", "1 month ago");
+        row("years", at.addYears(-3).addDays(-40), "en_US", "3 years ago");
+        row("ahead", at.addSecs(300), "en_US", "in 5 minutes");
+        row("german", at.addSecs(-7200), "de_DE", "vor 2 Stunden");
+        row("japanese", at.addSecs(-7200), "ja_JP", "2 時間前");
     }
     void largestWholeUnit()
     {

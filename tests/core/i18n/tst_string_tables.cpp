@@ -50,13 +50,6 @@ private Q_SLOTS:
     void catalogueIsConsistent()
     {
         QCOMPARE(StringCatalogue::entries().size(), 192);
-        // A key that shows specifiers lists exactly those; only two keys hide theirs.
-        for (const CatalogueEntry &entry : StringCatalogue::entries()) {
-            if (entry.key == u"about_version" || entry.key == u"update_available_message")
-                QCOMPARE(entry.specifiers, QStringList{QStringLiteral("%@")});
-            else
-                QCOMPARE(StringCatalogue::specifiersIn(entry.key), entry.specifiers);
-        }
         QCOMPARE(StringCatalogue::specifiersIn(QStringLiteral("%2$@ and %1$lld, 100%% %d")),
                  (QStringList{"%@", "%lld", "%d"}));
     }
