@@ -79,53 +79,48 @@ private slots:
     {
         QTest::addColumn<QByteArray>("xml");
         QTest::addColumn<QString>("expected");
-        QTest::newRow("last item wins")
-            << feed("<item>" + enclosure("2.0") + "</item>\n<item>" + enclosure("1.0") + "</item>")
-            << found("1.0");
-        QTest::newRow("attribute after element")
-            << item(version("1.2") + enclosure("7")) << found("7");
-        QTest::newRow("attribute before element")
-            << item(enclosure("7") + version("1.2")) << found("7");
-        QTest::newRow("element alone, trimmed")
-            << item(version("\n\t 1.2 \u00a0\n")) << found("1.2");
-        QTest::newRow("attribute untrimmed") << item(enclosure(" 7 ")) << found(" 7 ");
-        QTest::newRow("empty attribute still overwrites")
-            << item(version("1.2") + enclosure("")) << found("");
-        QTest::newRow("enclosure outside item counts")
-            << feed("<item>" + enclosure("1") + "</item>" + enclosure("5")) << found("5");
-        QTest::newRow("enclosure outside item, wiped by next item")
-            << feed(enclosure("5") + "<item><title>x</title></item>") << found("");
-        QTest::newRow("link followed by newline is emptied")
-            << item(link("http://h/n") + "\n") << found("", QString());
-        QTest::newRow("new item clears the link")
-            << feed("<item>" + link("a") + "</item><item/>") << found("");
-        QTest::newRow("references stay in one chunk")
-            << item(link(" http://h/?a=1&amp;b=&#50;")) << found("", "http://h/?a=1&b=2");
-        QTest::newRow("split version: first non-empty chunk stays")
-            << item(version(" <!--c--> 1.0<?pi?>2.0")) << found("1.0");
-        QTest::newRow("split link: last chunk stays")
-            << item(link("http://a<!--c-->http://b")) << found("", "http://b");
-        QTest::newRow("CDATA never reaches the reader's events")
-            << item(version("<![CDATA[3.0]]>") + link("<![CDATA[http://c]]>")) << found("");
-        QTest::newRow("text after an empty version element counts")
-            << item("<sparkle:shortVersionString/>4.5<title>t</title>") << found("4.5");
-        QTest::newRow("inner item closes the outer one")
-            << item("<item/>" + version("1")) << found("");
-        QTest::newRow("other prefix not understood")
-            << feed("<item xmlns:sp=\"urn:s\"><enclosure sp:version=\"3\"/>"
-                    "<sp:shortVersionString>3</sp:shortVersionString></item>")
-            << found("");
+        const auto row = [](const char *name, const QByteArray &xml, const QString &expected) {
+            QTest::newRow(name) << xml << expected;
+        };
+        row("last item wins",
+            feed("<item>" + enclosure("2.0") + "</item>\n<item>" + enclosure("1.0") + "</item>"),
+            found("1.0"));
+        row("attribute after element", item(version("1.2") + enclosure("7")), found("7"));
+        row("attribute before element", item(enclosure("7") + version("1.2")), found("7"));
+        row("element alone, trimmed", item(version("\n\t 1.2 \u00a0\n")), found("1.2"));
+        row("attribute untrimmed", item(enclosure(" 7 ")), found(" 7 "));
+        row("empty attribute still overwrites", item(version("1.2") + enclosure("")), found(""));
+        row("enclosure outside item counts",
+            feed("<item>" + enclosure("1") + "</item>" + enclosure("5")), found("5"));
+        row("enclosure outside item, wiped by next item",
+            feed(enclosure("5") + "<item><title>x</title></item>"), found(""));
+        row("link followed by newline is emptied", item(link("http://h/n") + "\n"),
+            found("", QString()));
+        row("new item clears the link", feed("<item>" + link("a") + "</item><item/>"), found(""));
+        row("references stay in one chunk", item(link(" http://h/?a=1&amp;b=&#50;")),
+            found("", "http://h/?a=1&b=2"));
+        row("split version: first non-empty chunk stays", item(version(" <!--c--> 1.0<?pi?>2.0")),
+            found("1.0"));
+        row("split link: last chunk stays", item(link("http://a<!--c-->http://b")),
+            found("", "http://b"));
+        row("CDATA never reaches the reader's events",
+            item(version("<![CDATA[3.0]]>") + link("<![CDATA[http://c]]>")), found(""));
+        row("text after an empty version element counts",
+            item("<sparkle:shortVersionString/>4.5<title>t</title>"), found("4.5"));
+        row("inner item closes the outer one", item("<item/>" + version("1")), found(""));
+        row("other prefix not understood",
+            feed("<item xmlns:sp=\"urn:s\"><enclosure sp:version=\"3\"/>"
+                 "<sp:shortVersionString>3</sp:shortVersionString></item>"),
+            found(""));
 
         // The last item is the oldest release; its delta enclosure has the final word.
-        QTest::newRow("history") << fixture("history-newest-first.xml")
-                                 << found("139.0.1",
-                                          "http://127.0.0.1:8765/app/Vandorel/notes/1.3.9.html");
-        QTest::newRow("single") << fixture("single-release.xml")
-                                << found("2.1", "http://127.0.0.1:8765/notes?v=2.1&lang=en");
-        QTest::newRow("link then newline")
-            << fixture("notes-link-then-newline.xml") << found("1.2", QString());
-        QTest::newRow("no items") << fixture("no-items.xml") << found("");
-        QTest::newRow("server error body") << fixture("server-error.xml") << found("");
+        row("history", fixture("history-newest-first.xml"),
+            found("139.0.1", "http://127.0.0.1:8765/app/Vandorel/notes/1.3.9.html"));
+        row("single", fixture("single-release.xml"),
+            found("2.1", "http://127.0.0.1:8765/notes?v=2.1&lang=en"));
+        row("link then newline", fixture("notes-link-then-newline.xml"), found("1.2", QString()));
+        row("no items", fixture("no-items.xml"), found(""));
+        row("server error body", fixture("server-error.xml"), found(""));
 
         const QString text = QStringLiteral(
             "<rss><item><sparkle:releaseNotesLink>http://h/n\u00e9\u20ac</sparkle:releaseNotesLink>"
@@ -136,37 +131,37 @@ private slots:
                                                  : QStringConverter::Flag::Default);
             return QByteArray(encoder(text));
         };
-        QTest::newRow("UTF-8, BOM") << encode(QStringConverter::Utf8, true) << expected;
-        QTest::newRow("UTF-16LE, BOM") << encode(QStringConverter::Utf16LE, true) << expected;
-        QTest::newRow("UTF-16BE") << encode(QStringConverter::Utf16BE, false) << expected;
-        QTest::newRow("UTF-32LE") << encode(QStringConverter::Utf32LE, false) << expected;
-        QTest::newRow("declared windows-1252")
-            << QByteArray("<?xml version='1.0' encoding='windows-1252'?>"
-                          "<rss><item>"
-                          + link("http://h/n\xe9\x80") + enclosure("1.0") + "</item></rss>")
-            << expected;
+        row("UTF-8, BOM", encode(QStringConverter::Utf8, true), expected);
+        row("UTF-16LE, BOM", encode(QStringConverter::Utf16LE, true), expected);
+        row("UTF-16BE", encode(QStringConverter::Utf16BE, false), expected);
+        row("UTF-32LE", encode(QStringConverter::Utf32LE, false), expected);
+        row("declared windows-1252",
+            QByteArray("<?xml version='1.0' encoding='windows-1252'?>"
+                       "<rss><item>"
+                       + link("http://h/n\xe9\x80") + enclosure("1.0") + "</item></rss>"),
+            expected);
 
         // The input limits never touch a realistic feed.
-        QTest::newRow("depth within the limit")
-            << nested(AppcastParser::kMaxDepth - 2, "<item><enclosure sparkle:version='4'/></item>")
-            << found("4");
-        QTest::newRow("attributes within the limit")
-            << manyAttributes(AppcastInput::kMaxAttributesPerTag - 1) << found("3");
+        row("depth within the limit",
+            nested(AppcastParser::kMaxDepth - 2, "<item><enclosure sparkle:version='4'/></item>"),
+            found("4"));
+        row("attributes within the limit", manyAttributes(AppcastInput::kMaxAttributesPerTag - 1),
+            found("3"));
         const auto withDoctype = [](const QByteArray &doctype, const QByteArray &xml) {
             return QByteArray(xml).replace("\n<rss", QByteArray("\n" + doctype + "\n<rss"));
         };
-        QTest::newRow("RSS 0.91 document type")
-            << withDoctype("<!DOCTYPE rss PUBLIC \"-//Netscape Communications//DTD RSS 0.91//EN\"\n"
-                           "  \"http://my.netscape.com/publish/formats/rss-0.91.dtd\">",
-                           item(enclosure("0.91")))
-            << found("0.91");
-        QTest::newRow("document type with a bracket in its system id")
-            << withDoctype("<!DOCTYPE rss SYSTEM 'http://h/[x].dtd'>", item(enclosure("6")))
-            << found("6");
-        QTest::newRow("doctype-like text in comment, PI and CDATA")
-            << item("<!-- <!DOCTYPE x> --><?pi <!DOCTYPE x>?><![CDATA[<!DOCTYPE x>]]>"
-                    "<enclosure sparkle:version='5'/>")
-            << found("5");
+        row("RSS 0.91 document type",
+            withDoctype("<!DOCTYPE rss PUBLIC \"-//Netscape Communications//DTD RSS 0.91//EN\"\n"
+                        "  \"http://my.netscape.com/publish/formats/rss-0.91.dtd\">",
+                        item(enclosure("0.91"))),
+            found("0.91"));
+        row("document type with a bracket in its system id",
+            withDoctype("<!DOCTYPE rss SYSTEM 'http://h/[x].dtd'>", item(enclosure("6"))),
+            found("6"));
+        row("doctype-like text in comment, PI and CDATA",
+            item("<!-- <!DOCTYPE x> --><?pi <!DOCTYPE x>?><![CDATA[<!DOCTYPE x>]]>"
+                 "<enclosure sparkle:version='5'/>"),
+            found("5"));
     }
 
     void readsFeeds()

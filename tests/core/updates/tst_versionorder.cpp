@@ -11,32 +11,22 @@ private slots:
         QTest::addColumn<QString>("b");
         QTest::addColumn<bool>("aNewer");
         QTest::addColumn<bool>("bNewer");
+        const auto row = [](const char *name, const QString &a, const QString &b, bool aNewer,
+                            bool bNewer) { QTest::newRow(name) << a << b << aNewer << bNewer; };
 
-        QTest::newRow("numeric, not textual") << "1.10"
-                                              << "1.9" << true << false;
-        QTest::newRow("missing parts are zeros") << "1.2"
-                                                 << "1.2.0" << false << false;
-        QTest::newRow("shorter can be newer") << "2"
-                                              << "1.9.9" << true << false;
-        QTest::newRow("junk part moves the rest up") << "1.2.3"
-                                                     << "1.2.x.4" << false << true;
-        QTest::newRow("part too large is dropped") << "1.99999999999999999999"
-                                                   << "1.0" << false << false;
-        QTest::newRow("sign counts") << "-1"
-                                     << "0" << false << true;
-        QTest::newRow("empty parts left out") << "1..2"
-                                              << "1.2" << false << false;
-        QTest::newRow("pre-release suffix ignored") << "1.2.3-beta"
-                                                    << "1.2" << false << false;
-        QTest::newRow("largest value") << "9223372036854775807"
-                                       << "9223372036854775806" << true << false;
-        QTest::newRow("smallest value") << "-9223372036854775808"
-                                        << "-9223372036854775807" << false << true;
-        QTest::newRow("just past the range") << "9223372036854775808"
-                                             << "0" << false << false;
-        QTest::newRow("just below the range") << "-9223372036854775809"
-                                              << "0" << false << false;
-        QTest::newRow("only ASCII digits") << QStringLiteral("1.\uff12") << "1" << false << false;
+        row("numeric, not textual", "1.10", "1.9", true, false);
+        row("missing parts are zeros", "1.2", "1.2.0", false, false);
+        row("shorter can be newer", "2", "1.9.9", true, false);
+        row("junk part moves the rest up", "1.2.3", "1.2.x.4", false, true);
+        row("part too large is dropped", "1.99999999999999999999", "1.0", false, false);
+        row("sign counts", "-1", "0", false, true);
+        row("empty parts left out", "1..2", "1.2", false, false);
+        row("pre-release suffix ignored", "1.2.3-beta", "1.2", false, false);
+        row("largest value", "9223372036854775807", "9223372036854775806", true, false);
+        row("smallest value", "-9223372036854775808", "-9223372036854775807", false, true);
+        row("just past the range", "9223372036854775808", "0", false, false);
+        row("just below the range", "-9223372036854775809", "0", false, false);
+        row("only ASCII digits", QStringLiteral("1.\uff12"), "1", false, false);
     }
 
     void isVersion()
