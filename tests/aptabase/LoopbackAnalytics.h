@@ -49,14 +49,20 @@ struct LoopbackAnalytics {
         return events();
     }
 
-    // Sends what waits and returns every event so far as its name and properties.
-    QList<QPair<QString, QJsonObject>> flushedEvents()
+    // As arrived(), each event as its name and properties.
+    QList<QPair<QString, QJsonObject>> arrivedNamed() const
     {
-        aptabase.flush();
         QList<QPair<QString, QJsonObject>> named;
         for (const QJsonValue &event : arrived())
             named.append({event[QLatin1String("eventName")].toString(),
                           event[QLatin1String("props")].toObject()});
         return named;
+    }
+
+    // Sends what waits and returns every event so far as its name and properties.
+    QList<QPair<QString, QJsonObject>> flushedEvents()
+    {
+        aptabase.flush();
+        return arrivedNamed();
     }
 };
