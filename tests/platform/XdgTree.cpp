@@ -87,12 +87,12 @@ QString XdgTree::stub(const QString &name) const
 }
 
 QString XdgTree::entry(const QString &dir, const QString &file, const QByteArray &mimeTypes,
-                       const QByteArray &extra) const
+                       const QByteArray &extra, const QByteArray &name) const
 {
-    const QString program = stub(QFileInfo(file).completeBaseName());
+    const QString base = QFileInfo(file).completeBaseName();
     QByteArray content =
-        "[Desktop Entry]\nType=Application\nName=" + QFileInfo(file).completeBaseName().toUtf8()
-        + "\nExec=" + program.toUtf8() + " %u\n";
+        "[Desktop Entry]\nType=Application\nName=" + (name.isEmpty() ? base.toUtf8() : name)
+        + "\nExec=" + stub(base).toUtf8() + " %u\n";
     if (!mimeTypes.isEmpty())
         content += "MimeType=" + mimeTypes + "\n";
     content += extra;

@@ -26,9 +26,9 @@ public:
     // An executable shell script in bin/; returns its absolute path.
     QString stub(const QString &name) const;
     // A launchable entry at <dir>/<file> whose Exec is a stub; `extra` lines are appended to
-    // its [Desktop Entry] group. Returns the file's absolute path.
+    // its [Desktop Entry] group. Named `name`, or after the file. Returns its absolute path.
     QString entry(const QString &dir, const QString &file, const QByteArray &mimeTypes,
-                  const QByteArray &extra = {}) const;
+                  const QByteArray &extra = {}, const QByteArray &name = {}) const;
     // A copy of a real desktop file (a fixture) at <dir>/<file name>, its Exec and TryExec
     // programs replaced by stubs, so that GIO counts it as installed; with `installed` false
     // they point at programs that do not exist. Returns the copy's absolute path.

@@ -38,21 +38,18 @@ private slots:
     {
         QTest::addColumn<QString>("exec");
         QTest::addColumn<QString>("program");
-        QTest::newRow("leading blanks") << "  prog --flag"
-                                        << "prog";
-        QTest::newRow("double quotes") << "\"/opt/My App/run\" %U"
-                                       << "/opt/My App/run";
+        const auto row = [](const char *name, const QString &exec, const QString &program) {
+            QTest::newRow(name) << exec << program;
+        };
+        row("leading blanks", "  prog --flag", "prog");
+        row("double quotes", "\"/opt/My App/run\" %U", "/opt/My App/run");
         // The line is unescaped as a key-file value first (\\ is one backslash), then split.
-        QTest::newRow("escapes in double quotes") << "\"/opt/a\\\\\"b\\\\\\\\c\" x"
-                                                  << "/opt/a\"b\\c";
-        QTest::newRow("single quotes") << "'/opt/it'\"'\"'s' -x"
-                                       << "/opt/it's";
-        QTest::newRow("backslash") << "/opt/My\\\\ App %f"
-                                   << "/opt/My App";
-        QTest::newRow("key-file blank escape") << "/opt/My\\sApp %f"
-                                               << "/opt/My";
-        QTest::newRow("unterminated") << "\"/opt/x" << QString();
-        QTest::newRow("blank") << "   " << QString();
+        row("escapes in double quotes", "\"/opt/a\\\\\"b\\\\\\\\c\" x", "/opt/a\"b\\c");
+        row("single quotes", "'/opt/it'\"'\"'s' -x", "/opt/it's");
+        row("backslash", "/opt/My\\\\ App %f", "/opt/My App");
+        row("key-file blank escape", "/opt/My\\sApp %f", "/opt/My");
+        row("unterminated", "\"/opt/x", QString());
+        row("blank", "   ", QString());
     }
 
     void execProgram()

@@ -118,28 +118,21 @@ private slots:
     {
         QTest::addColumn<QByteArray>("defaults");
         QTest::addColumn<QString>("expected");
-        QTest::newRow("missing file")
-            << QByteArray("gone.desktop;plain.desktop") << "plain.desktop";
-        QTest::newRow("TryExec missing")
-            << QByteArray("tryexec.desktop;plain.desktop") << "plain.desktop";
-        QTest::newRow("Exec program missing")
-            << QByteArray("noprogram.desktop;plain.desktop") << "plain.desktop";
-        QTest::newRow("not an application")
-            << QByteArray("link.desktop;plain.desktop") << "plain.desktop";
-        QTest::newRow("malformed")
-            << QByteArray("malformed.desktop;plain.desktop") << "plain.desktop";
-        QTest::newRow("relative Exec on PATH")
-            << QByteArray("relative.desktop;plain.desktop") << "relative.desktop";
-        QTest::newRow("no Exec at all")
-            << QByteArray("noexec.desktop;plain.desktop") << "noexec.desktop";
-        QTest::newRow("NoDisplay")
-            << QByteArray("nodisplay.desktop;plain.desktop") << "nodisplay.desktop";
+        const auto row = [](const char *name, const QByteArray &defaults, const QString &expected) {
+            QTest::newRow(name) << defaults << expected;
+        };
+        row("missing file", "gone.desktop;plain.desktop", "plain.desktop");
+        row("TryExec missing", "tryexec.desktop;plain.desktop", "plain.desktop");
+        row("Exec program missing", "noprogram.desktop;plain.desktop", "plain.desktop");
+        row("not an application", "link.desktop;plain.desktop", "plain.desktop");
+        row("malformed", "malformed.desktop;plain.desktop", "plain.desktop");
+        row("relative Exec on PATH", "relative.desktop;plain.desktop", "relative.desktop");
+        row("no Exec at all", "noexec.desktop;plain.desktop", "noexec.desktop");
+        row("NoDisplay", "nodisplay.desktop;plain.desktop", "nodisplay.desktop");
         // GIO opens URLs with a Hidden entry that a list names as default.
-        QTest::newRow("Hidden") << QByteArray("hidden.desktop;plain.desktop") << "hidden.desktop";
-        QTest::newRow("Type with a blank at the end")
-            << QByteArray("typeblank.desktop;plain.desktop") << "plain.desktop";
-        QTest::newRow("all unusable: first association")
-            << QByteArray("gone.desktop;tryexec.desktop") << "nodisplay.desktop";
+        row("Hidden", "hidden.desktop;plain.desktop", "hidden.desktop");
+        row("Type with a blank at the end", "typeblank.desktop;plain.desktop", "plain.desktop");
+        row("all unusable: first association", "gone.desktop;tryexec.desktop", "nodisplay.desktop");
     }
 
     void unusableEntriesAreSkipped()
