@@ -33,16 +33,6 @@ class AppTest : public QObject {
                      .isEmpty());
     }
 
-    // A launchable entry with a stub program.
-    void application(const QString &dataDir, const QString &id, const QByteArray &name,
-                     const QByteArray &mimeTypes, const QByteArray &extra = {})
-    {
-        const QString program = m_tree->stub(id);
-        m_tree->write(dataDir + u"/applications/" + id + u".desktop",
-                      "[Desktop Entry]\nType=Application\nName=" + name + "\nExec="
-                          + program.toUtf8() + " %u\nMimeType=" + mimeTypes + "\n" + extra);
-    }
-
     static QJsonObject status(QStringList *consoleLines = nullptr)
     {
         QProcess process;
@@ -103,9 +93,24 @@ class AppTest : public QObject {
                 process.readAllStandardError()};
     }
 
-    QString settingsPath() const
+    static inline const QString settingsFile =
+        QStringLiteral("config/io.kestrane.vandorel/settings.ini");
+    QString settingsPath() const { return m_tree->path(settingsFile); }
+
+    // Starts the program on the offscreen platform.
+    static void launch(QProcess &program, const QStringList &arguments = {})
     {
-        return m_tree->path(QStringLiteral("config/io.kestrane.vandorel/settings.ini"));
+        QProcessEnvironment env = QProcessEnvironment::systemEnvironment();
+        env.insert(QStringLiteral("QT_QPA_PLATFORM"), QStringLiteral("offscreen"));
+        program.setProcessEnvironment(env);
+        program.start(QStringLiteral(VANDOREL_BINARY), arguments);
+    }
+
+    // Collects the program's output into `out` until it holds `text`.
+    static bool printed(QProcess &program, QByteArray &out, const char *text)
+    {
+        return QTest::qWaitFor(
+            [&] { return (out += program.readAllStandardOutput()).contains(text); }, 20000);
     }
 
     // Runs the program until 3.5 s after its first change-log line (or 20 s without one)
@@ -113,12 +118,9 @@ class AppTest : public QObject {
     QList<qint64> changeLogTimes(const QStringList &arguments, QByteArray *out)
     {
         QProcess program;
-        QProcessEnvironment env = QProcessEnvironment::systemEnvironment();
-        env.insert(QStringLiteral("QT_QPA_PLATFORM"), QStringLiteral("offscreen"));
-        program.setProcessEnvironment(env);
         QElapsedTimer clock;
         clock.start();
-        program.start(QStringLiteral(VANDOREL_BINARY), arguments);
+        launch(program, arguments);
         QList<qint64> times;
         while (clock.elapsed() < (times.isEmpty() ? 20000 : times.first() + 3500)) {
             program.waitForReadyRead(100);
@@ -136,7 +138,7 @@ class AppTest : public QObject {
         QVERIFY(run(QStringLiteral("gio"), {"mime", "x-scheme-handler/https", "chromium.desktop"}));
         QVERIFY(run(QStringLiteral("gio"), {"mime", "x-scheme-handler/http", "chromium.desktop"}));
         m_tree->write(
-            QStringLiteral("config/io.kestrane.vandorel/settings.ini"),
+            settingsFile,
             "[General]\nhasLaunchedBefore=true\nmonitoringEnabled=true\ncheckInterval=10min\n"
             "checkOnLogin=true\n"
                 + firefoxTarget);
@@ -226,15 +228,15 @@ private Q_SLOTS:
     {
         // A known identifier, whatever its name; a registered handler whose name the rules
         // reject; one they accept through "min"; one GIO refuses (its TryExec is missing).
-        application(QStringLiteral("share1"), QStringLiteral("org.mozilla.firefox"), "Nightly",
-                    "x-scheme-handler/https;");
-        application(QStringLiteral("share2"), QStringLiteral("terminal-web"),
-                    "Terminal Web Browser", "x-scheme-handler/http;");
-        application(QStringLiteral("share2"), QStringLiteral("admin"), "Admin Panel",
-                    "x-scheme-handler/http;");
-        application(QStringLiteral("share2"), QStringLiteral("ghost"), "Ghost Browser Mail",
-                    "x-scheme-handler/https;x-scheme-handler/mailto;",
-                    "TryExec=/nonexistent/ghost\n");
+        const QString share1 = QStringLiteral("share1/applications");
+        const QString share2 = QStringLiteral("share2/applications");
+        m_tree->entry(share1, "org.mozilla.firefox.desktop", "x-scheme-handler/https;", {},
+                      "Nightly");
+        m_tree->entry(share2, "terminal-web.desktop", "x-scheme-handler/http;", {},
+                      "Terminal Web Browser");
+        m_tree->entry(share2, "admin.desktop", "x-scheme-handler/http;", {}, "Admin Panel");
+        m_tree->entry(share2, "ghost.desktop", "x-scheme-handler/https;x-scheme-handler/mailto;",
+                      "TryExec=/nonexistent/ghost\n", "Ghost Browser Mail");
         m_tree->updateCaches();
         const QStringList registered =
             XdgTree::gioMime(QStringLiteral("x-scheme-handler/https")).registered;
@@ -257,11 +259,10 @@ private Q_SLOTS:
     {
         QVERIFY(run(QStringLiteral("gio"), {"mime", "x-scheme-handler/https", "chromium.desktop"}));
         m_tree->write(
-            QStringLiteral("config/io.kestrane.vandorel/settings.ini"),
+            settingsFile,
             "[General]\nmonitoringEnabled=true\ncheckInterval=5min\n" + firefoxTarget
                 + "emailMonitoringEnabled=maybe\ntargetDefaultEmailClient=@ByteArray(garbage)\n");
-        const QByteArray before =
-            m_tree->read(QStringLiteral("config/io.kestrane.vandorel/settings.ini"));
+        const QByteArray before = m_tree->read(settingsFile);
         const QJsonObject report = status();
         const QJsonObject browser = report.value(u"browser").toObject();
         QCOMPARE(browser.value(u"target").toObject().value(u"bundleIdentifier").toString(),
@@ -272,7 +273,7 @@ private Q_SLOTS:
         QVERIFY(email.value(u"target").isNull());
         QCOMPARE(email.value(u"isProtected").toBool(), false);
         QCOMPARE(email.value(u"status").toString(), QString("notProtected"));
-        QCOMPARE(m_tree->read(QStringLiteral("config/io.kestrane.vandorel/settings.ini")), before);
+        QCOMPARE(m_tree->read(settingsFile), before);
     }
 
     // Help, version and a mistaken option answer without starting anything: no settings
@@ -295,13 +296,9 @@ private Q_SLOTS:
         QVERIFY(QDir(m_tree->path(QStringLiteral("runtime"))).isEmpty());
 
         QProcess first;
-        QProcessEnvironment env = QProcessEnvironment::systemEnvironment();
-        env.insert(QStringLiteral("QT_QPA_PLATFORM"), QStringLiteral("offscreen"));
-        first.setProcessEnvironment(env);
-        first.start(QStringLiteral(VANDOREL_BINARY));
+        launch(first);
         QByteArray out;
-        QTRY_VERIFY_WITH_TIMEOUT(
-            (out += first.readAllStandardOutput(), out.contains("🚀 App launched")), 20000);
+        QVERIFY(printed(first, out, "🚀 App launched"));
         QCOMPARE(ask({QStringLiteral("--bogus")}).exitCode, 2);
         QCOMPARE(ask({QStringLiteral("-v")}).out, version);
         QCOMPARE(first.state(), QProcess::Running);
@@ -312,21 +309,14 @@ private Q_SLOTS:
     void firstLaunchOnceAndOneCopyOnly()
     {
         QProcess first;
-        first.setProcessChannelMode(QProcess::SeparateChannels);
-        QProcessEnvironment env = QProcessEnvironment::systemEnvironment();
-        env.insert(QStringLiteral("QT_QPA_PLATFORM"), QStringLiteral("offscreen"));
-        first.setProcessEnvironment(env);
-        first.start(QStringLiteral(VANDOREL_BINARY));
+        launch(first);
         QByteArray out;
-        QTRY_VERIFY_WITH_TIMEOUT((out += first.readAllStandardOutput(),
-                                  out.contains("🚀 App launched -> configure update scheduler")),
-                                 20000);
+        QVERIFY(printed(first, out, "🚀 App launched -> configure update scheduler"));
         QVERIFY(out.contains("✨ First launch - defaults set\n"));
         QVERIFY(out.contains("✨ Email: First launch - defaults set\n"));
 
         QProcess second;
-        second.setProcessEnvironment(env);
-        second.start(QStringLiteral(VANDOREL_BINARY));
+        launch(second);
         QVERIFY(second.waitForFinished(20000));
         QCOMPARE(second.exitStatus(), QProcess::NormalExit);
         QCOMPARE(second.exitCode(), 0);
@@ -338,12 +328,10 @@ private Q_SLOTS:
         QVERIFY(first.waitForFinished(10000));
 
         QProcess again;
-        again.setProcessEnvironment(env);
-        again.start(QStringLiteral(VANDOREL_BINARY));
-        QByteArray out2;
-        QTRY_VERIFY_WITH_TIMEOUT(
-            (out2 += again.readAllStandardOutput(), out2.contains("🚀 App launched")), 20000);
-        QVERIFY(!out2.contains("First launch"));
+        launch(again);
+        out.clear();
+        QVERIFY(printed(again, out, "🚀 App launched"));
+        QVERIFY(!out.contains("First launch"));
         again.kill();
         again.waitForFinished(5000);
     }

@@ -1,11 +1,6 @@
-#include "ConsoleCapture.h"
-#include "FakeClock.h"
-#include "FakeHandlerDatabase.h"
+#include "../../core/guard/GuardWorld.h"
 #include "FakeLogind.h"
-#include "FakeTimerFactory.h"
 #include "PrivateBuses.h"
-#include "RecordingTelemetry.h"
-#include "TempSettings.h"
 #include "core/guard/BrowserManager.h"
 #include "core/guard/EmailClientManager.h"
 #include "platform/freedesktop/FreedesktopSystemEvents.h"
@@ -164,22 +159,12 @@ private Q_SLOTS:
     {
         FakeLogind logind(m_buses->systemAddress());
         FreedesktopSystemEvents events;
-        TempSettings settings;
-        FakeHandlerDatabase handlers;
-        FakeClock clock;
-        FakeTimerFactory timers;
-        RecordingTelemetry telemetry;
-        GuardEnvironment env;
-        env.settings = &settings.store();
-        env.handlers = &handlers;
-        env.clock = &clock;
-        env.timers = &timers;
-        env.telemetry = &telemetry;
+        GuardWorld world;
+        GuardEnvironment env = world.environment();
         env.events = &events;
         BrowserManager browser(env);
         EmailClientManager email(env);
-        handlers.install("firefox-esr", QString("Firefox ESR"));
-        handlers.setHandlers("https", {"firefox-esr"});
+        world.browsersDefault("chromium");
 
         ConsoleCapture console;
         logind.sleep(false);
@@ -187,7 +172,7 @@ private Q_SLOTS:
         QVERIFY(console.contains("🔍 Checking after wake"));
         QVERIFY(console.contains("🔍 Email: Checking after wake"));
         // The check resolves the default afresh.
-        QCOMPARE(browser.currentDefaultBrowser()->bundleIdentifier, QString("firefox-esr"));
+        QCOMPARE(browser.currentDefaultBrowser()->bundleIdentifier, QString("chromium"));
 
         console.take();
         browser.setCheckOnWake(false);
@@ -205,7 +190,7 @@ private Q_SLOTS:
         QVERIFY(delivered(logind));
         QCOMPARE(console.startingWith("🔍"), QStringList({"🔍 Email: Checking after wake"}));
         console.take();
-        clock.advance(3601);
+        world.clock.advance(3601);
         logind.sleep(false);
         QTRY_COMPARE(console.startingWith("🔍").size(), 2);
     }

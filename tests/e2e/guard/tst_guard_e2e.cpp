@@ -1,12 +1,5 @@
-#include "ConsoleCapture.h"
-#include "EnglishTexts.h"
-#include "FakeClock.h"
-#include "FakeTimerFactory.h"
-#include "RecordingTelemetry.h"
-#include "ScriptedPrompter.h"
-#include "TempSettings.h"
+#include "../../core/guard/GuardWorld.h"
 #include "XdgTree.h"
-#include "core/changelog/LogManager.h"
 #include "core/guard/BrowserManager.h"
 #include "core/guard/EmailClientManager.h"
 #include "platform/freedesktop/FreedesktopHandlerDatabase.h"
@@ -14,12 +7,8 @@
 #include <QDir>
 #include <QProcess>
 #include <QStandardPaths>
-#include <QTest>
 
-#include <chrono>
 #include <memory>
-
-using namespace std::chrono_literals;
 
 // The guards against the real freedesktop handler database: another program takes a role
 // over with xdg-mime, the next check finds it, and after the change back gio reads the
@@ -31,10 +20,7 @@ class GuardEndToEndTest : public QObject {
 
     void entry(const QString &id, const QByteArray &name, const QByteArray &mimeTypes)
     {
-        const QString program = m_tree->stub(id);
-        m_tree->write(u"share1/applications/" + id + u".desktop",
-                      "[Desktop Entry]\nType=Application\nName=" + name
-                          + "\nExec=" + program.toUtf8() + " %u\nMimeType=" + mimeTypes + "\n");
+        m_tree->entry(QStringLiteral("share1/applications"), id + u".desktop", mimeTypes, {}, name);
     }
 
     // What another program does: xdg-mime writes the user's mimeapps.list.
@@ -49,29 +35,14 @@ class GuardEndToEndTest : public QObject {
                && process.exitCode() == 0;
     }
 
-    // One guard's services, with the real handler database.
-    struct Rig {
-        TempSettings settings;
-        FreedesktopHandlerDatabase handlers;
-        FakeClock clock;
-        FakeTimerFactory timers;
-        ScriptedPrompter alerts;
-        LogManager log{settings.store(), clock};
-        RecordingTelemetry telemetry;
-        EnglishTexts texts;
-        GuardEnvironment env;
-
-        Rig()
-        {
-            env.settings = &settings.store();
-            env.handlers = &handlers;
-            env.clock = &clock;
-            env.timers = &timers;
-            env.alerts = &alerts;
-            env.log = &log;
-            env.telemetry = &telemetry;
-            env.texts = &texts;
-        }
+    // The guard world with the real handler database in place of its fake one.
+    struct Rig : GuardWorld {
+        FreedesktopHandlerDatabase realHandlers;
+        GuardEnvironment env = [this] {
+            GuardEnvironment real = environment();
+            real.handlers = &realHandlers;
+            return real;
+        }();
     };
 
 private Q_SLOTS:
