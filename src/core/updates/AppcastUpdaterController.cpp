@@ -6,13 +6,26 @@
 
 void AppcastUpdaterController::checkForUpdates()
 {
+    check(true);
+}
+
+void AppcastUpdaterController::checkForUpdatesInBackground()
+{
+    check(false);
+}
+
+void AppcastUpdaterController::check(bool userAsked)
+{
     // The owner of this controller answers only while it lives.
-    m_services.check([this](bool available, const std::optional<QString> &version) {
-        if (!available || !version)
-            presentNoUpdate();
-        else if (m_services.sheet)
-            m_services.sheet->presentUpdateAvailable(*version, false);
-    });
+    m_services.check(
+        [this, userAsked](bool available, const std::optional<QString> &version, bool failed) {
+            if (available && version) {
+                if (m_services.sheet)
+                    m_services.sheet->presentUpdateAvailable(*version, false);
+            } else if (userAsked && !failed) {
+                presentNoUpdate();
+            }
+        });
 }
 
 void AppcastUpdaterController::presentNoUpdate()

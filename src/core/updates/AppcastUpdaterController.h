@@ -14,11 +14,13 @@ class TextLookup;
 class UpdateSheetPresenter;
 
 // The updater of a platform without a native one, on an install that Homebrew does not
-// manage: a check reads the appcast and shows the update sheet when a newer version exists,
-// else tells in a prompt that this copy is up to date.
+// manage: a check reads the appcast and shows the update sheet when a newer version exists;
+// a check the user asked for that finds none tells so in a prompt.
 class AppcastUpdaterController final : public UpdaterController {
 public:
-    using Answer = std::function<void(bool available, const std::optional<QString> &version)>;
+    // `failed`: the feed could not be read or judged, so nothing is known.
+    using Answer =
+        std::function<void(bool available, const std::optional<QString> &version, bool failed)>;
     // Reads the feed and answers once, on the main thread.
     using Check = std::function<void(Answer)>;
 
@@ -33,6 +35,7 @@ public:
 
     void startUpdater() override { m_started = true; }
     void checkForUpdates() override;
+    void checkForUpdatesInBackground() override;
 
     bool isStarted() const { return m_started; }
 
@@ -40,6 +43,7 @@ public:
     static ModalPrompt noUpdatePrompt(const TextLookup &texts);
 
 private:
+    void check(bool userAsked);
     void presentNoUpdate();
 
     Services m_services;

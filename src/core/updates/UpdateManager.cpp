@@ -31,6 +31,9 @@ UpdateManager *&sharedSlot()
     return manager;
 }
 
+// How long the feed server may stay silent before the check fails.
+constexpr std::chrono::seconds feedTimeout{60};
+
 const QStringList brewCaskTokens = {QStringLiteral("vandorel"), QStringLiteral("van-dorel")};
 
 } // namespace
@@ -102,7 +105,11 @@ UpdaterController *UpdateManager::sparkleUpdaterController()
 std::unique_ptr<UpdaterController> UpdateManager::makeAppcastUpdater()
 {
     AppcastUpdaterController::Services services;
-    services.check = [this](Completion completion) { checkForUpdates(std::move(completion)); };
+    services.check = [this](AppcastUpdaterController::Answer answer) {
+        fetchFeed([answer = std::move(answer)](const Answer &found) {
+            answer(found.available, found.version, found.failed);
+        });
+    };
     services.sheet = m_options.sheet;
     services.prompter = m_options.prompter;
     services.language = m_options.language;
@@ -110,6 +117,11 @@ std::unique_ptr<UpdaterController> UpdateManager::makeAppcastUpdater()
 }
 
 bool UpdateManager::checkForUpdatesWithSparkle()
+{
+    return startUpdaterCheck(false);
+}
+
+bool UpdateManager::startUpdaterCheck(bool inBackground)
 {
     if (isBrewInstall() || !sparkleUpdaterController())
         return false;
@@ -121,10 +133,13 @@ bool UpdateManager::checkForUpdatesWithSparkle()
     // Right after the current work; dropped if the manager is gone by then.
     QMetaObject::invokeMethod(
         this,
-        [this] {
+        [this, inBackground] {
             UpdaterController *controller = sparkleUpdaterController();
             controller->startUpdater();
-            controller->checkForUpdates();
+            if (inBackground)
+                controller->checkForUpdatesInBackground();
+            else
+                controller->checkForUpdates();
             scheduleSparkleReset();
         },
         Qt::QueuedConnection);
@@ -160,7 +175,7 @@ void UpdateManager::checkAutomaticallyAndPresentIfAvailable()
             Console::line(line);
             return;
         }
-        if (!checkForUpdatesWithSparkle())
+        if (!startUpdaterCheck(true))
             return;
         snoozeAutoReminder(*version, autoReminderSnoozeHours);
         Console::line(u"🔕 Auto update reminder snoozed for "
@@ -216,34 +231,55 @@ QNetworkAccessManager &UpdateManager::network()
 
 void UpdateManager::checkForUpdates(Completion completion)
 {
+    fetchFeed([completion = std::move(completion)](const Answer &answer) {
+        completion(answer.available, answer.version);
+    });
+}
+
+void UpdateManager::fetchFeed(std::function<void(const Answer &)> answered)
+{
     if (m_updateTask)
         m_updateTask->abort();
     QNetworkReply *reply = network().get(QNetworkRequest(m_options.appcastURL));
     m_updateTask = reply;
+    auto ending = std::make_shared<Ending>();
     // A body the appcast reader would refuse is not read to its end.
-    auto oversized = std::make_shared<bool>(false);
     connect(reply, &QNetworkReply::downloadProgress, reply,
-            [reply, oversized](qint64 received, qint64) {
-                if (received > AppcastInput::kMaxBytes && !*oversized) {
-                    *oversized = true;
+            [reply, ending](qint64 received, qint64) {
+                if (received > AppcastInput::kMaxBytes && !ending->oversized) {
+                    ending->oversized = true;
                     reply->abort();
                 }
             });
+    // A server that stays silent for a minute fails the check; each piece of the answer
+    // gives it another minute.
+    Timer *silence = m_options.timers->createTimer(reply);
+    connect(silence, &Timer::timeout, reply, [reply, ending] {
+        ending->timedOut = true;
+        reply->abort();
+    });
+    connect(reply, &QNetworkReply::downloadProgress, silence,
+            [silence] { silence->start(feedTimeout, false); });
+    connect(reply, &QNetworkReply::finished, silence, &Timer::stop);
+    silence->start(feedTimeout, false);
     connect(reply, &QNetworkReply::finished, this,
-            [this, reply, oversized, completion = std::move(completion)] {
+            [this, reply, ending, answered = std::move(answered)] {
                 reply->deleteLater();
-                finishCheck(reply, *oversized, completion);
+                finishCheck(reply, *ending, answered);
             });
 }
 
-void UpdateManager::finishCheck(QNetworkReply *reply, bool oversized, const Completion &completion)
+void UpdateManager::finishCheck(QNetworkReply *reply, Ending ending,
+                                const std::function<void(const Answer &)> &answered)
 {
     FetchResult result;
-    result.oversized = oversized;
+    result.oversized = ending.oversized;
     const ReplyOutcome outcome = ReplyOutcome::of(*reply);
-    if (!oversized && reply->error() == QNetworkReply::OperationCanceledError)
+    if (ending.timedOut)
+        result.transportError = QStringLiteral("The request timed out.");
+    else if (!ending.oversized && reply->error() == QNetworkReply::OperationCanceledError)
         result.cancelled = true;
-    else if (!oversized && outcome.failure)
+    else if (!ending.oversized && outcome.failure)
         result.transportError = outcome.failure;
     else if (reply->isReadable())
         result.data = reply->readAll();
@@ -252,8 +288,7 @@ void UpdateManager::finishCheck(QNetworkReply *reply, bool oversized, const Comp
     if (!answer)
         return;
     QMetaObject::invokeMethod(
-        this, [completion, answer = *answer] { completion(answer.available, answer.version); },
-        Qt::QueuedConnection);
+        this, [answered, answer = *answer] { answered(answer); }, Qt::QueuedConnection);
 }
 
 std::optional<UpdateManager::Answer> UpdateManager::answerFor(const FetchResult &result,
@@ -261,25 +296,27 @@ std::optional<UpdateManager::Answer> UpdateManager::answerFor(const FetchResult 
 {
     if (result.cancelled)
         return std::nullopt;
+    Answer failure;
+    failure.failed = true;
     if (result.transportError) {
         Console::line(u"❌ Update check failed: " + *result.transportError);
-        return Answer{};
+        return failure;
     }
     if (!result.oversized && !result.data) {
         Console::line(QStringLiteral("❌ No data received from appcast"));
-        return Answer{};
+        return failure;
     }
     const std::optional<AppcastResult> feed =
         result.oversized ? std::nullopt : AppcastParser::parseAppcast(*result.data);
     if (!feed) {
         Console::line(QStringLiteral("❌ Failed to parse appcast"));
-        return Answer{};
+        return failure;
     }
     Console::line(u"📦 Current version: " + currentVersion);
     Console::line(u"📦 Latest version: " + feed->version);
     if (VersionOrder::isVersion(feed->version, currentVersion)) {
         Console::line(QStringLiteral("✅ Update available!"));
-        return Answer{true, feed->version};
+        return Answer{true, feed->version, false};
     }
     Console::line(QStringLiteral("✅ No update available"));
     return Answer{};

@@ -60,6 +60,7 @@ public:
     struct Answer {
         bool available = false;
         std::optional<QString> version;
+        bool failed = false; // the feed could not be read or judged
     };
 
     static constexpr double autoReminderSnoozeHours = 4.0;
@@ -100,13 +101,21 @@ public:
 
 private:
     std::unique_ptr<UpdaterController> makeAppcastUpdater();
+    bool startUpdaterCheck(bool inBackground);
+    void fetchFeed(std::function<void(const Answer &)> answered);
     void scheduleSparkleReset();
     void snoozeAutoReminder(const QString &version, double hours);
     bool isSnoozed(const QString &version) const;
     std::optional<double> remainingSnoozeSeconds(const QString &version) const;
     double nowSeconds() const;
     QNetworkAccessManager &network();
-    void finishCheck(QNetworkReply *reply, bool oversized, const Completion &completion);
+    // How a feed request was ended by this side, if it was.
+    struct Ending {
+        bool oversized = false; // the body outgrew what the appcast reader accepts
+        bool timedOut = false;  // the server stayed silent too long
+    };
+    void finishCheck(QNetworkReply *reply, Ending ending,
+                     const std::function<void(const Answer &)> &answered);
 
     Options m_options;
     QNetworkAccessManager *m_network = nullptr;

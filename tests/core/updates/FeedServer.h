@@ -28,6 +28,12 @@ public:
     }
 
     void serve(Page page) { m_page = std::move(page); }
+    // Pages answered once each, in order, before the served one.
+    QList<Page> script;
+    // Every answer sends this Location header.
+    void redirectTo(const QByteArray &location) { m_location = location; }
+    // Every answer is broken off after this many bytes of its body.
+    void cutOffAfter(qsizetype bytes) { m_cutAt = bytes; }
     void hold() { m_holding = true; }
     void release()
     {
@@ -68,16 +74,28 @@ private:
 
     void answer(QTcpSocket *socket)
     {
-        socket->write("HTTP/1.1 " + QByteArray::number(m_page.status)
-                      + " Status\r\nContent-Type: text/xml\r\nContent-Length: "
-                      + QByteArray::number(m_page.body.size()) + "\r\nConnection: close\r\n\r\n"
-                      + m_page.body);
-        socket->disconnectFromHost();
+        const Page page = script.isEmpty() ? m_page : script.takeFirst();
+        QByteArray head = "HTTP/1.1 " + QByteArray::number(page.status)
+                          + " Status\r\nContent-Type: text/xml\r\nContent-Length: "
+                          + QByteArray::number(page.body.size()) + "\r\n";
+        if (!m_location.isEmpty())
+            head += "Location: " + m_location + "\r\n";
+        socket->write(head + "Connection: close\r\n\r\n");
+        if (m_cutAt < 0) {
+            socket->write(page.body);
+            socket->disconnectFromHost();
+            return;
+        }
+        socket->write(page.body.left(m_cutAt));
+        socket->flush();
+        socket->abort();
     }
 
     QTcpServer m_server;
     Page m_page;
     bool m_holding = false;
+    QByteArray m_location;
+    qsizetype m_cutAt = -1;
     QList<QPointer<QTcpSocket>> m_held;
     QHash<QTcpSocket *, QByteArray> m_buffers;
 };

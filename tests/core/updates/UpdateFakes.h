@@ -20,6 +20,10 @@ struct RecordingController final : UpdaterController {
     explicit RecordingController(QStringList &calls) : calls(calls) {}
     void startUpdater() override { calls.append(QStringLiteral("startUpdater")); }
     void checkForUpdates() override { calls.append(QStringLiteral("checkForUpdates")); }
+    void checkForUpdatesInBackground() override
+    {
+        calls.append(QStringLiteral("checkForUpdatesInBackground"));
+    }
     QStringList &calls;
 };
 

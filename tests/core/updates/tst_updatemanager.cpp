@@ -146,6 +146,40 @@ private Q_SLOTS:
         QCOMPARE(rig.console.take(), QStringList{"❌ No data received from appcast"});
     }
 
+    // A transfer that did not end as HTTP says fails the check, whatever came before it.
+    void brokenTransfersFailTheCheck_data()
+    {
+        QTest::addColumn<QString>("how");
+        QTest::newRow("body cut off") << "cut";
+        QTest::newRow("redirect loop") << "loop";
+        QTest::newRow("silent server") << "silent";
+    }
+    void brokenTransfersFailTheCheck()
+    {
+        QFETCH(QString, how);
+        Rig rig;
+        rig.server.serve({.body = feed("2.0")});
+        if (how == "cut") {
+            rig.server.cutOffAfter(60);
+        } else if (how == "loop") {
+            rig.server.serve({.status = 302, .body = {}});
+            rig.server.redirectTo(rig.server.url().toUtf8());
+        } else {
+            rig.server.hold();
+        }
+
+        rig.manager->checkForUpdates(rig.recorder("check"));
+        if (how == "silent") {
+            QTRY_COMPARE(rig.server.requestLines.size(), 1);
+            QCOMPARE(rig.timers.fire(59s), 0);
+            QCOMPARE(rig.timers.fire(60s), 1);
+        }
+        QTRY_COMPARE(rig.answers, QStringList{"check no -"});
+        const QStringList lines = rig.console.lines();
+        QCOMPARE(lines.size(), 1);
+        QVERIFY2(lines.first().startsWith(u"❌ Update check failed: "), qPrintable(lines.first()));
+    }
+
     void supersededRequestNeverAnswers()
     {
         Rig rig;
@@ -282,6 +316,28 @@ private Q_SLOTS:
                 && !store.contains(SettingsTable::updateSnoozeVersion.key()));
         rig.runAutomaticCheck();
         QCOMPARE(rig.calls.size(), 10);
+    }
+
+    // The automatic path never says there is no update: not when the updater's own look at
+    // the feed fails after the check found one. A check the user asked for that fails says
+    // nothing either; only a feed without a newer version brings that box.
+    void noUpdatesIsSaidOnlyWhenAskedAndTrue()
+    {
+        Rig rig(true);
+        rig.server.script = {{.body = feed("2.0")}, {.body = "<html>broken"}};
+        rig.manager->checkAutomaticallyAndPresentIfAvailable();
+        QTRY_COMPARE(rig.console.startingWith("❌"), QStringList{"❌ Failed to parse appcast"});
+        settle();
+        QCOMPARE(rig.server.requestLines.size(), 2);
+        QVERIFY(rig.prompter.shown().isEmpty());
+        QVERIFY(rig.sheet.shown.isEmpty());
+
+        rig.timers.fire(8s);
+        rig.server.serve({.body = "<html>broken"});
+        QVERIFY(rig.manager->checkForUpdatesWithSparkle());
+        QTRY_COMPARE(rig.console.startingWith("❌").size(), 2);
+        settle();
+        QVERIFY(rig.prompter.shown().isEmpty());
     }
 
     void ownUpdaterShowsWhatTheFeedSays()
