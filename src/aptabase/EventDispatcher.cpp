@@ -1,6 +1,7 @@
 #include "aptabase/EventDispatcher.h"
 
 #include "aptabase/DebugPrint.h"
+#include "foundation/ReadOnceUpload.h"
 #include "foundation/ReplyOutcome.h"
 
 #include <QJsonArray>
@@ -116,7 +117,8 @@ void EventDispatcher::sendEvents(const QList<Event> &batch, std::function<void(b
     request.setTransferTimeout(requestTimeoutMs);
     for (const auto &[name, value] : m_headers)
         request.setRawHeader(name, value);
-    QNetworkReply *reply = m_session->post(request, *body);
+    // One attempt, one request: a batch sent twice would count its events twice.
+    QNetworkReply *reply = ReadOnceUpload::post(*m_session, request, *body);
     ++m_sending;
     const qsizetype batchSize = batch.size();
     connect(reply, &QNetworkReply::finished, this, [this, reply, batchSize, finished] {

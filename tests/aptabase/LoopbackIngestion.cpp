@@ -79,6 +79,13 @@ void LoopbackIngestion::answer(QTcpSocket *socket)
 {
     --openRequests;
     const Answer next = m_script.isEmpty() ? Answer() : m_script.takeFirst();
+    if (next.status <= 0) {
+        if (next.status < 0)
+            socket->write("SSH-2.0-OpenSSH_9.2\r\n");
+        socket->flush();
+        socket->abort();
+        return;
+    }
     socket->write("HTTP/1.1 " + QByteArray::number(next.status) + " Scripted\r\n"
                   + "Content-Type: text/plain\r\nContent-Length: "
                   + QByteArray::number(next.body.size()) + "\r\nConnection: close\r\n\r\n"

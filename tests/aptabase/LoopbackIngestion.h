@@ -25,6 +25,7 @@ public:
         QStringList eventNames() const;
     };
 
+    // Status 0 closes the connection without an answer; -1 answers with a line of no HTTP.
     struct Answer {
         int status = 200;
         QByteArray body;

@@ -171,6 +171,29 @@ private slots:
         QCOMPARE(server.requests[2].eventNames(), names(2, 3));
     }
 
+    // One attempt, one request: a batch whose connection drops, or that gets no HTTP back,
+    // is not sent again behind the client's back (it would arrive twice), but kept for the
+    // next flush.
+    void aBrokenConnectionIsOneRequestAndTheBatchIsKept()
+    {
+        LoopbackIngestion server;
+        QVERIFY(server.listen());
+        server.script({{0, {}}, {-1, {}}, {200, {}}, {200, {}}, {200, {}}, {200, {}}});
+        CapturedLines captured;
+        auto client = clientFor(server.baseUrl());
+        track(*client, 0, 2);
+        QVERIFY(flushAndWait(*client));
+        QCOMPARE(server.requests.size(), 1);
+        QCOMPARE(client->dispatcher().pendingCount(), 2);
+        QVERIFY(flushAndWait(*client));
+        QCOMPARE(server.requests.size(), 2);
+        QCOMPARE(client->dispatcher().pendingCount(), 2);
+        QVERIFY(flushAndWait(*client));
+        QCOMPARE(server.requests.size(), 3);
+        QCOMPARE(client->dispatcher().pendingCount(), 0);
+        QCOMPARE(captured.lines.size(), 2);
+    }
+
     void onlyTheFailedBatchOfAFlushReturns()
     {
         LoopbackIngestion server;

@@ -4,15 +4,17 @@
 #include "core/i18n/LanguageManager.h"
 #include "core/support/SystemClock.h"
 #include "core/telemetry/AptabaseManager.h"
+#include "foundation/ReadOnceUpload.h"
 #include "foundation/ReplyOutcome.h"
 
 #include "BuildConfig.h"
 
+#include <QCoreApplication>
 #include <QLoggingCategory>
 #include <QNetworkAccessManager>
 #include <QNetworkReply>
 #include <QNetworkRequest>
-#include <QScopeGuard>
+#include <QPointer>
 #include <QStringDecoder>
 
 Q_LOGGING_CATEGORY(lcFeedback, "Feedback")
@@ -38,6 +40,36 @@ QString bodyText(const QByteArray &body)
     const QString text = decoder(body);
     return decoder.hasError() ? QStringLiteral("<empty>") : text;
 }
+
+// Judges the answer to a send, writes its log lines and sends its telemetry event. True when
+// the feedback arrived.
+bool judged(QNetworkReply &reply, const FeedbackPayload &payload)
+{
+    const ReplyOutcome outcome = ReplyOutcome::of(reply);
+    QString reason;
+    if (outcome.failure) {
+        reason = *outcome.failure;
+    } else if (!outcome.status) {
+        qCCritical(lcFeedback, "Feedback send failed: invalid HTTP response");
+        reason = domainErrorDescription(-1);
+    } else if (const int code = *outcome.status; code >= 200 && code <= 299) {
+        qCInfo(lcFeedback, "Feedback sent successfully: status=%d", code);
+        AptabaseManager::trackEvent(QStringLiteral("feedback_sent"),
+                                    {{QStringLiteral("tag"), payload.tag},
+                                     {QStringLiteral("mood"), payload.mood},
+                                     {QStringLiteral("rating"), payload.rating}});
+        return true;
+    } else {
+        qCCritical(lcFeedback, "Feedback send failed: status=%d, body=%s", code,
+                   qUtf8Printable(bodyText(reply.readAll())));
+        reason = domainErrorDescription(code);
+    }
+    qCCritical(lcFeedback, "Feedback send exception: %s", qUtf8Printable(reason));
+    AptabaseManager::trackEvent(QStringLiteral("feedback_send_failed"),
+                                {{QStringLiteral("reason"), reason}});
+    return false;
+}
+
 } // namespace
 
 const QStringList &FeedbackForm::moodEmojis()
@@ -137,12 +169,19 @@ void FeedbackForm::sendFeedback()
     request.setHeader(QNetworkRequest::ContentTypeHeader, QByteArrayLiteral("application/json"));
     request.setRawHeader(QByteArrayLiteral("X-API-Key"), m_options.apiKey.toUtf8());
     request.setTransferTimeout(static_cast<int>(m_options.timeout.count()));
-    QNetworkReply *reply = network().post(request, payload.encoded());
-    connect(reply, &QNetworkReply::finished, this, [this, reply, payload] {
-        reply->deleteLater();
-        judge(reply, payload);
-        Q_EMIT sendFinished();
-    });
+    // The send outlives the page that started it (leaving the page or changing the language
+    // rebuilds it): it is judged, logged and counted whatever happens to the form, and shown
+    // only while the form exists.
+    QNetworkReply *reply = ReadOnceUpload::post(network(), request, payload.encoded());
+    connect(reply, &QNetworkReply::finished, reply,
+            [form = QPointer<FeedbackForm>(this), reply, payload] {
+                reply->deleteLater();
+                const bool arrived = judged(*reply, payload);
+                if (!form)
+                    return;
+                form->showOutcome(arrived);
+                Q_EMIT form->sendFinished();
+            });
 }
 
 FeedbackPayload FeedbackForm::makePayload() const
@@ -162,45 +201,17 @@ FeedbackPayload FeedbackForm::makePayload() const
     return payload;
 }
 
-void FeedbackForm::judge(QNetworkReply *reply, const FeedbackPayload &payload)
+void FeedbackForm::showOutcome(bool arrived)
 {
-    const auto notSending = qScopeGuard([this] { setSending(false); });
-    const ReplyOutcome outcome = ReplyOutcome::of(*reply);
-    if (outcome.failure)
-        return fail(*outcome.failure);
-    if (!outcome.status) {
-        qCCritical(lcFeedback, "Feedback send failed: invalid HTTP response");
-        return fail(domainErrorDescription(-1));
-    }
-    const int code = *outcome.status;
-    if (code >= 200 && code <= 299)
-        return succeed(code, payload);
-    qCCritical(lcFeedback, "Feedback send failed: status=%d, body=%s", code,
-               qUtf8Printable(bodyText(reply->readAll())));
-    fail(domainErrorDescription(code));
-}
-
-void FeedbackForm::succeed(int status, const FeedbackPayload &payload)
-{
-    qCInfo(lcFeedback, "Feedback sent successfully: status=%d", status);
+    setSending(false);
+    if (!arrived)
+        return showError();
     m_feedbackText.clear();
     m_characterCount = 0;
     m_selectedTag = FeedbackTag::coolApp;
     m_selectedMoodIndex = initialMoodIndex;
     m_showSuccessAlert = true;
     Q_EMIT changed();
-    AptabaseManager::trackEvent(QStringLiteral("feedback_sent"),
-                                {{QStringLiteral("tag"), payload.tag},
-                                 {QStringLiteral("mood"), payload.mood},
-                                 {QStringLiteral("rating"), payload.rating}});
-}
-
-void FeedbackForm::fail(const QString &reason)
-{
-    qCCritical(lcFeedback, "Feedback send exception: %s", qUtf8Printable(reason));
-    showError();
-    AptabaseManager::trackEvent(QStringLiteral("feedback_send_failed"),
-                                {{QStringLiteral("reason"), reason}});
 }
 
 void FeedbackForm::showError()
@@ -218,10 +229,15 @@ void FeedbackForm::setSending(bool sending)
     Q_EMIT changed();
 }
 
+// Not the form's own: its requests must outlive it.
 QNetworkAccessManager &FeedbackForm::network()
 {
-    if (!m_options.network)
-        m_options.network = new QNetworkAccessManager(this);
+    if (!m_options.network) {
+        static QPointer<QNetworkAccessManager> shared;
+        if (!shared)
+            shared = new QNetworkAccessManager(QCoreApplication::instance());
+        m_options.network = shared;
+    }
     return *m_options.network;
 }
 

@@ -13,7 +13,6 @@
 class Clock;
 class LanguageManager;
 class QNetworkAccessManager;
-class QNetworkReply;
 
 // The state of the feedback page and the one operation that sends it: a mood, a category and
 // an optional text, posted as JSON with the feedback key. Every outcome ends in one of the two
@@ -73,9 +72,8 @@ Q_SIGNALS:
 
 private:
     FeedbackPayload makePayload() const;
-    void judge(QNetworkReply *reply, const FeedbackPayload &payload);
-    void succeed(int status, const FeedbackPayload &payload);
-    void fail(const QString &reason);
+    // Ends the send on the form: resets the input after a success, shows the error otherwise.
+    void showOutcome(bool arrived);
     void setSending(bool sending);
     void showError();
     QNetworkAccessManager &network();

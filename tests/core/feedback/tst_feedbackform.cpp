@@ -196,6 +196,46 @@ private Q_SLOTS:
                  QStringList({rig.sendingLine(), u"error: Feedback send exception: " + reason}));
     }
 
+    // One press, one request: a connection dropped before any answer, or an answer that is
+    // no HTTP, fails the send; it is never sent again behind the user's back.
+    void aBrokenConnectionIsOneRequestAndAFailure_data()
+    {
+        QTest::addColumn<int>("status");
+        QTest::newRow("reset") << 0;
+        QTest::newRow("not HTTP") << -1;
+    }
+    void aBrokenConnectionIsOneRequestAndAFailure()
+    {
+        QFETCH(int, status);
+        Rig rig;
+        rig.server.script({{status, {}}, {200, {}}, {200, {}}, {200, {}}});
+        QVERIFY(rig.send(2, FeedbackTag::coolApp, QString()));
+        QCOMPARE(rig.server.requests.size(), 1);
+        QCOMPARE(rig.state(), "|coolApp|2|error");
+        const auto events = rig.telemetry.flushedEvents();
+        QCOMPARE(events.size(), 1);
+        QCOMPARE(events.first().first, "feedback_send_failed");
+    }
+
+    // A send outlives the form that started it (the page is rebuilt when left or when the
+    // language changes): it is still judged, logged and counted.
+    void aSendOutlivesItsForm()
+    {
+        Rig rig;
+        rig.server.hold();
+        rig.form->setFeedbackText(QStringLiteral("Bye"));
+        rig.form->sendFeedback();
+        QTRY_COMPARE(rig.server.requests.size(), 1);
+        rig.form.reset();
+        rig.server.release();
+        QStringList lines;
+        QTRY_VERIFY((lines += FeedbackLog::take(),
+                     lines.contains("info: Feedback sent successfully: status=200")));
+        const auto events = rig.telemetry.flushedEvents();
+        QCOMPARE(events.size(), 1);
+        QCOMPARE(events.first().first, "feedback_sent");
+    }
+
     void noApiKeyShowsTheErrorWithoutRequestOrTelemetry()
     {
         Rig rig(QString{});
