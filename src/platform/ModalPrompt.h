@@ -13,4 +13,6 @@ struct ModalPrompt {
     QStringList buttons;
     QString symbolName; // a symbol of the program's symbol table; empty: the style's own
     Style style = Style::informational;
+    // What a screen reader says for the symbol; empty: nothing.
+    QString symbolDescription = QString();
 };

@@ -6,7 +6,12 @@
 
 void ModalPrompter::present(const ModalPrompt &prompt, Answer onAnswer)
 {
-    m_pending.append({prompt, std::move(onAnswer)});
+    present([prompt] { return prompt; }, std::move(onAnswer));
+}
+
+void ModalPrompter::present(Compose compose, Answer onAnswer)
+{
+    m_pending.append({std::move(compose), std::move(onAnswer)});
     if (!m_presenting)
         scheduleNext();
 }
@@ -41,5 +46,5 @@ void ModalPrompter::showNext()
     m_onAnswer = std::move(next.onAnswer);
     m_presenting = true;
     Q_EMIT presentingChanged(true);
-    show(next.prompt);
+    show(next.compose());
 }

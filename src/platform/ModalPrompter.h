@@ -16,12 +16,16 @@ class ModalPrompter : public QObject {
     Q_OBJECT
 public:
     using Answer = std::function<void(int button)>;
+    using Compose = std::function<ModalPrompt()>;
 
     using QObject::QObject;
 
     // Queues the prompt and returns; `onAnswer` runs on the main thread with the index of the
     // button that answered it.
     void present(const ModalPrompt &prompt, Answer onAnswer);
+    // As above, but the prompt is composed only as it goes on screen, so its texts are
+    // those of that moment (the language may change while it waits its turn).
+    void present(Compose compose, Answer onAnswer);
     // Whether a prompt is on screen now.
     bool isPresenting() const { return m_presenting; }
     // Prompts asked for and not yet on screen.
@@ -40,7 +44,7 @@ protected:
 
 private:
     struct Pending {
-        ModalPrompt prompt;
+        Compose compose;
         Answer onAnswer;
     };
 

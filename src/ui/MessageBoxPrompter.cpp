@@ -61,13 +61,20 @@ void MessageBoxPrompter::show(const ModalPrompt &prompt)
     // Names in the text are not markup, whatever they contain.
     if (auto *informative = box->findChild<QLabel *>(QStringLiteral("qt_msgbox_informativelabel")))
         informative->setTextFormat(Qt::PlainText);
-    if (SymbolTable::contains(prompt.symbolName)) {
+    // The style's icon is set first, so the box keeps its kind for the accessibility tools;
+    // a symbol then takes its place on screen.
+    box->setIcon(standardIcon(prompt.style));
+    auto *icon = box->findChild<QLabel *>(QStringLiteral("qt_msgboxex_icon_label"));
+    if (icon && SymbolTable::contains(prompt.symbolName)) {
         const QPixmap symbol =
             SymbolTable::tinted(prompt.symbolName, symbolColour(prompt.style), symbolSize);
-        box->setIconPixmap(symbol);
+        icon->setPixmap(symbol);
         box->setWindowIcon(symbol);
-    } else {
-        box->setIcon(standardIcon(prompt.style));
+    }
+    if (icon && !prompt.symbolDescription.isEmpty()) {
+        // Screen readers read an image by its name.
+        icon->setAccessibleName(prompt.symbolDescription);
+        icon->setAccessibleDescription(prompt.symbolDescription);
     }
     QList<QAbstractButton *> buttons;
     for (qsizetype i = 0; i < prompt.buttons.size(); ++i) {

@@ -301,9 +301,17 @@ void HandlerGuard::monitoringTimeout()
     timerFired();
 }
 
+// The answer may have started a change back; until it has ended, the tick would find the
+// old default, count it and alert once more.
 void HandlerGuard::alertsPresentingChanged(bool presenting)
 {
-    if (presenting || !m_tickMissed)
+    if (!presenting && !m_isChanging)
+        runMissedTick();
+}
+
+void HandlerGuard::runMissedTick()
+{
+    if (!m_tickMissed || (m_env.alerts && m_env.alerts->isPresenting()))
         return;
     m_tickMissed = false; // stopping the monitoring drops it too
     timerFired();
@@ -371,6 +379,7 @@ void HandlerGuard::endChange()
 {
     m_isChanging = false;
     Q_EMIT objectWillChange();
+    runMissedTick();
 }
 
 void HandlerGuard::cancelChange()
@@ -385,20 +394,27 @@ void HandlerGuard::showChangedAlert(const HandlerRecord &current, const HandlerR
     m_env.telemetry->trackAlertShown(m_profile.alertType);
     if (!m_env.alerts)
         return;
-    const TextLookup &language = *m_env.texts;
-    ModalPrompt alert;
-    alert.title = language.localizedString(m_profile.alertTitleKey);
-    alert.text = TextFormat::format(language.localizedString(m_profile.alertMessageKey),
-                                    {current.name, target.name});
-    alert.buttons = {
-        language.localizedString(QStringLiteral("alert_button_change_back")),
-        TextFormat::format(language.localizedString(QStringLiteral("alert_button_keep %@")),
-                           {current.name})};
-    alert.symbolName = QStringLiteral("exclamationmark.shield");
-    alert.style = ModalPrompt::Style::warning;
+    // Texts are looked up as the alert goes on screen: it may wait behind another while
+    // the language changes.
+    const TextLookup *language = m_env.texts;
+    const GuardProfile *profile = &m_profile;
+    auto compose = [language, profile, current, target] {
+        ModalPrompt alert;
+        alert.title = language->localizedString(profile->alertTitleKey);
+        alert.text = TextFormat::format(language->localizedString(profile->alertMessageKey),
+                                        {current.name, target.name});
+        alert.buttons = {
+            language->localizedString(QStringLiteral("alert_button_change_back")),
+            TextFormat::format(language->localizedString(QStringLiteral("alert_button_keep %@")),
+                               {current.name})};
+        alert.symbolName = QStringLiteral("exclamationmark.shield");
+        alert.symbolDescription = QStringLiteral("Warning");
+        alert.style = ModalPrompt::Style::warning;
+        return alert;
+    };
     // Each call queues its own alert; the answer goes to this guard if it still exists.
     QPointer<HandlerGuard> guard(this);
-    m_env.alerts->present(alert, [guard, target](int button) {
+    m_env.alerts->present(std::move(compose), [guard, target](int button) {
         if (guard)
             guard->alertAnswered(button, target);
     });

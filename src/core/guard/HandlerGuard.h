@@ -95,6 +95,7 @@ private:
     void monitoringTimeout();
     void timerFired();
     void alertsPresentingChanged(bool presenting);
+    void runMissedTick();
 
     void endChange();
     void recordChange(const HandlerRecord &from, const HandlerRecord &to, bool autoFix);
@@ -120,6 +121,7 @@ private:
     bool m_isChanging = false;
     Timer *m_monitoringTimer = nullptr;
     std::optional<QDateTime> m_snoozeUntil;
-    // A monitoring tick that came while an alert was up; it runs once the alert is gone.
+    // A monitoring tick that came while an alert was up; it runs once the alert is gone and
+    // any change its answer started has ended.
     bool m_tickMissed = false;
 };

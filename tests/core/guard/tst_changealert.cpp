@@ -2,6 +2,8 @@
 #include "core/guard/BrowserManager.h"
 #include "core/guard/EmailClientManager.h"
 
+#include <QScopeGuard>
+
 // The change alert and the snooze: the two answers, which paths honour and end a snooze,
 // alerts one at a time, and ticks held back while one is up.
 class ChangeAlertTest : public QObject {
@@ -182,6 +184,87 @@ private Q_SLOTS:
         // Nothing more is owed once that tick ran.
         QVERIFY(world.alerts.answer(GuardWorld::keep));
         QCOMPARE(browser.browserChangeCount(), 1);
+    }
+
+    // A tick missed while the alert was up waits for the change back its answer started:
+    // run before the change lands, it would find the old default, count it and alert again.
+    void aTickMissedDuringTheAlertWaitsForTheChangeBack()
+    {
+        Incident incident;
+        auto &[world, browser] = incident;
+        QCOMPARE(world.tick(), 1); // missed: the alert is up
+        world.handlers.holdWrites();
+        auto release = qScopeGuard([&] { world.handlers.releaseWrites(); });
+        ConsoleCapture console;
+        QVERIFY(world.alerts.answer(GuardWorld::changeBack));
+        world.handlers.waitUntilWriting();
+        GuardWorld::settle();
+        QCOMPARE(browser.browserChangeCount(), 1);
+        QVERIFY(!world.alerts.isPresenting());
+
+        release.dismiss();
+        world.handlers.releaseWrites();
+        QVERIFY(world.waitForPolling());
+        world.poll();
+        GuardWorld::settle();
+        QCOMPARE(console.startingWith("📝"),
+                 QStringList({"📝 Log: Browser changed from Chromium to Firefox"}));
+        QCOMPARE(browser.browserChangeCount(), 2);
+        QCOMPARE(world.alerts.shown().size(), 1);
+    }
+
+    // ... and it does run once the change has ended: one refused, the default is still away.
+    void aTickMissedDuringTheAlertRunsWhenTheChangeBackTimesOut()
+    {
+        Incident incident;
+        auto &[world, browser] = incident;
+        world.handlers.refuse("http");
+        world.handlers.refuse("https");
+        world.tick();
+        QVERIFY(world.alerts.answer(GuardWorld::changeBack));
+        QVERIFY(world.waitForPolling());
+        world.poll(59);
+        QCOMPARE(browser.browserChangeCount(), 1);
+        world.poll();
+        QVERIFY(!browser.isChangingBrowser());
+        QCOMPARE(browser.browserChangeCount(), 2);
+        GuardWorld::settle();
+        QCOMPARE(world.alerts.shown().size(), 2);
+    }
+
+    // An alert waiting its turn is worded in the language of the moment it comes up.
+    void aWaitingAlertSpeaksTheLanguageOfItsTurn()
+    {
+        struct SwitchableTexts final : TextLookup {
+            EnglishTexts english;
+            QString accent;
+            QString localizedString(const QString &key) const override
+            {
+                return accent + english.localizedString(key);
+            }
+        } texts;
+        GuardWorld world;
+        GuardEnvironment environment = world.environment();
+        environment.texts = &texts;
+        BrowserManager browser(environment);
+        browser.setTargetDefaultBrowser(firefox());
+        world.browsersDefault("chromium");
+        browser.checkDefaultBrowser();
+        world.browsersDefault("epiphany");
+        browser.checkDefaultBrowser();
+        GuardWorld::settle();
+        const ModalPrompt first = world.alerts.last();
+        QCOMPARE(first.title, QString("Default browser changed"));
+        QCOMPARE(first.style, ModalPrompt::Style::warning);
+        QCOMPARE(first.symbolDescription, QString("Warning"));
+
+        texts.accent = QStringLiteral("» ");
+        QVERIFY(world.alerts.answer(GuardWorld::keep));
+        GuardWorld::settle();
+        const ModalPrompt second = world.alerts.last();
+        QCOMPARE(second.title, QString("» Default browser changed"));
+        QVERIFY(second.text.startsWith(u"» "));
+        QCOMPARE(second.buttons, QStringList({"» Change back", "» Keep Web for now"}));
     }
 
     void theAnswerToAGoneGuardIsDropped()

@@ -19,7 +19,8 @@ class MessageBoxPrompterTest : public QObject {
                 u"Another program has made " + name + u" your default browser.",
                 {QStringLiteral("Change back"), u"Keep " + name + u" for now"},
                 QStringLiteral("exclamationmark.shield"),
-                ModalPrompt::Style::warning};
+                ModalPrompt::Style::warning,
+                QStringLiteral("Warning")};
     }
 
     static QList<QMessageBox *> visibleBoxes()
@@ -69,6 +70,12 @@ private Q_SLOTS:
                     c.alpha() > 200 && c.red() > 200 && c.blue() < 60)
                     ++orange;
         QVERIFY2(orange > 200, "a warning's symbol is drawn in the warning colour");
+        // The symbol takes the place of the style's icon, not of the box's kind, and is named
+        // for screen readers.
+        QCOMPARE(box->icon(), QMessageBox::Warning);
+        auto *symbol = box->findChild<QLabel *>("qt_msgboxex_icon_label");
+        QVERIFY(symbol);
+        QCOMPARE(symbol->accessibleName(), QString("Warning"));
 
         box->grab().save(QDir::tempPath() + "/vandorel-change-alert.png");
         QTest::keyClick(box, Qt::Key_Escape);
