@@ -73,6 +73,10 @@ int main(int argc, char **argv)
     QApplication::setApplicationName(QStringLiteral("Vandorel"));
     QApplication::setDesktopFileName(QString::fromUtf8(BuildConfig::appId));
     QApplication::setQuitOnLastWindowClosed(false);
+    // Logout, Ctrl+C and a closed terminal end the program as a quit does.
+    const auto quitRequests = PlatformBackend::createQuitRequests();
+    QObject::connect(quitRequests.get(), &QuitRequests::quitRequested, &application,
+                     &QCoreApplication::quit);
 
     VandorelApp::Options options;
     options.launchedAtLogin = commandLine.launchedAtLogin();

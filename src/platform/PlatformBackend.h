@@ -4,6 +4,7 @@
 #include "platform/HandlerDatabase.h"
 #include "platform/InstallLayout.h"
 #include "platform/LoginItem.h"
+#include "platform/QuitRequests.h"
 #include "platform/SingleInstance.h"
 #include "platform/SystemEvents.h"
 #include "platform/UrlHandOver.h"
@@ -22,4 +23,6 @@ public:
     static std::unique_ptr<DeviceFacts> createDeviceFacts();
     static std::unique_ptr<InstallLayout> createInstallLayout();
     static std::unique_ptr<UrlHandOver> createUrlHandOver(const QString &appId);
+    // One per process.
+    static std::unique_ptr<QuitRequests> createQuitRequests();
 };

@@ -7,6 +7,7 @@
 #include "platform/freedesktop/FreedesktopInstallLayout.h"
 #include "platform/freedesktop/FreedesktopSystemEvents.h"
 #include "platform/freedesktop/LockFileSingleInstance.h"
+#include "platform/freedesktop/PosixQuitRequests.h"
 
 #include <QCoreApplication>
 
@@ -43,4 +44,9 @@ std::unique_ptr<InstallLayout> PlatformBackend::createInstallLayout()
 std::unique_ptr<UrlHandOver> PlatformBackend::createUrlHandOver(const QString &appId)
 {
     return std::make_unique<DBusUrlHandOver>(appId);
+}
+
+std::unique_ptr<QuitRequests> PlatformBackend::createQuitRequests()
+{
+    return std::make_unique<PosixQuitRequests>();
 }

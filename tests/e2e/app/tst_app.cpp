@@ -9,7 +9,11 @@
 #include <QJsonDocument>
 #include <QJsonObject>
 #include <QProcess>
+#include <QSet>
+#include <QTemporaryDir>
 #include <QTest>
+
+#include <csignal>
 
 // The real program over a temporary XDG tree with desktop entries from Debian's
 // packages: what `--status` resolves must be what GIO resolves, after changes made by
@@ -334,6 +338,85 @@ private Q_SLOTS:
         QVERIFY(!out.contains("First launch"));
         again.kill();
         again.waitForFinished(5000);
+    }
+
+    // Starts the program with its own runtime directory, where its lock lives, and waits
+    // until it has started; `shell` runs in front of it (ending in `exec "$0"`).
+    bool startInOwnRuntime(QProcess &program, const QTemporaryDir &runtime,
+                           const QString &shell = QStringLiteral("exec \"$0\""))
+    {
+        QProcessEnvironment env = QProcessEnvironment::systemEnvironment();
+        env.insert(QStringLiteral("QT_QPA_PLATFORM"), QStringLiteral("offscreen"));
+        env.insert(QStringLiteral("XDG_RUNTIME_DIR"), runtime.path());
+        program.setProcessEnvironment(env);
+        program.start(QStringLiteral("sh"), {"-c", shell, QStringLiteral(VANDOREL_BINARY)});
+        QByteArray out;
+        return QTest::qWaitFor(
+            [&] {
+                out += program.readAllStandardOutput();
+                return out.contains("🚀 App launched");
+            },
+            20000);
+    }
+
+    // The signals a process ignores and catches, from the kernel.
+    static QSet<int> signalsOf(qint64 pid, const char *field)
+    {
+        QFile status(QStringLiteral("/proc/%1/status").arg(pid));
+        if (!status.open(QIODevice::ReadOnly))
+            return {};
+        const QByteArray prefix = QByteArray(field) + ':';
+        for (const QByteArray &line : status.readAll().split('\n')) {
+            if (!line.startsWith(prefix))
+                continue;
+            const quint64 mask = line.mid(prefix.size()).trimmed().toULongLong(nullptr, 16);
+            QSet<int> numbers;
+            for (int number = 1; number <= 64; ++number)
+                if (mask & (quint64(1) << (number - 1)))
+                    numbers.insert(number);
+            return numbers;
+        }
+        return {};
+    }
+
+    // Logout (SIGTERM), Ctrl+C and a closed terminal end the program as a quit does: the
+    // event loop ends and the program gives its place up.
+    void signalsFromOutsideEndTheProgramInOrder_data()
+    {
+        QTest::addColumn<int>("signal");
+        QTest::newRow("SIGTERM") << SIGTERM;
+        QTest::newRow("SIGINT") << SIGINT;
+        QTest::newRow("SIGHUP") << SIGHUP;
+    }
+    void signalsFromOutsideEndTheProgramInOrder()
+    {
+        QFETCH(int, signal);
+        QTemporaryDir runtime;
+        QProcess program;
+        QVERIFY(startInOwnRuntime(program, runtime));
+        const QString lock = runtime.filePath(QString::fromUtf8(BuildConfig::appId) + u".lock");
+        QVERIFY(QFile::exists(lock));
+        ::kill(static_cast<pid_t>(program.processId()), signal);
+        QVERIFY(program.waitForFinished(10000));
+        QCOMPARE(program.exitStatus(), QProcess::NormalExit);
+        QCOMPARE(program.exitCode(), 0);
+        QVERIFY(!QFile::exists(lock));
+    }
+
+    // A hang-up ignored at start, as under nohup, stays ignored.
+    void anIgnoredHangUpStaysIgnored()
+    {
+        QTemporaryDir runtime;
+        QProcess program;
+        QVERIFY(startInOwnRuntime(program, runtime, QStringLiteral("trap '' HUP; exec \"$0\"")));
+        const QSet<int> ignored = signalsOf(program.processId(), "SigIgn");
+        const QSet<int> caught = signalsOf(program.processId(), "SigCgt");
+        QVERIFY(ignored.contains(SIGHUP));
+        QVERIFY(!caught.contains(SIGHUP));
+        QVERIFY(caught.contains(SIGTERM) && caught.contains(SIGINT));
+        program.terminate();
+        QVERIFY(program.waitForFinished(10000));
+        QCOMPARE(program.exitStatus(), QProcess::NormalExit);
     }
 
     // The check at start counts the change away from the target; a launch at login
