@@ -316,7 +316,11 @@ private Q_SLOTS:
         launch(first);
         QByteArray out;
         QVERIFY(printed(first, out, "🚀 App launched -> configure update scheduler"));
-        QVERIFY(out.contains("✨ First launch - defaults set\n"));
+        // The language is set up at start with the other process-wide services, before the
+        // guards, not on the first text looked up.
+        const qsizetype language = out.indexOf("🌍 Language initialized: ");
+        QVERIFY2(language >= 0 && language < out.indexOf("✨ First launch - defaults set\n"),
+                 out.constData());
         QVERIFY(out.contains("✨ Email: First launch - defaults set\n"));
 
         QProcess second;
