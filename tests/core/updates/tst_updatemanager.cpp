@@ -160,7 +160,9 @@ private Q_SLOTS:
         Rig rig;
         rig.server.serve({.body = feed("2.0")});
         if (how == "cut") {
-            rig.server.cutOffAfter(60);
+            // The whole feed comes, then a reset short of the length announced.
+            rig.server.serve({.body = feed("2.0") + QByteArray(64, ' ')});
+            rig.server.cutOffAfter(feed("2.0").size());
         } else if (how == "loop") {
             rig.server.serve({.status = 302, .body = {}});
             rig.server.redirectTo(rig.server.url().toUtf8());
@@ -331,6 +333,13 @@ private Q_SLOTS:
         QCOMPARE(rig.server.requestLines.size(), 2);
         QVERIFY(rig.prompter.shown().isEmpty());
         QVERIFY(rig.sheet.shown.isEmpty());
+        // Nor when that look finds nothing newer.
+        rig.timers.fire(8s);
+        rig.server.script = {{.body = feed("2.1")}, {.body = feed("1.0")}};
+        rig.manager->checkAutomaticallyAndPresentIfAvailable();
+        QTRY_COMPARE(rig.console.startingWith("✅ No update").size(), 1);
+        settle();
+        QVERIFY(rig.prompter.shown().isEmpty());
 
         rig.timers.fire(8s);
         rig.server.serve({.body = "<html>broken"});
