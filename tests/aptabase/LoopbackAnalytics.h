@@ -22,9 +22,8 @@ struct LoopbackAnalytics {
     LoopbackAnalytics()
     {
         aptabase.setTimers(&timers);
-        if (server.listen())
-            aptabase.initialize(QStringLiteral("A-SH-7700112233"),
-                                InitOptions(server.baseUrl(), 3600, TrackingMode::asRelease()));
+        aptabase.initialize(QStringLiteral("A-SH-7700112233"),
+                            InitOptions(server.baseUrl(), 3600, TrackingMode::asRelease()));
         Aptabase::setShared(&aptabase);
     }
     ~LoopbackAnalytics() { Aptabase::setShared(nullptr); }
@@ -36,7 +35,7 @@ struct LoopbackAnalytics {
     {
         QJsonArray all;
         for (const LoopbackIngestion::Request &request : server.requests)
-            for (const QJsonValue &event : request.events())
+            for (const QJsonValue &event : LoopbackIngestion::events(request))
                 all.append(event);
         return all;
     }

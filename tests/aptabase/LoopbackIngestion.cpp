@@ -4,104 +4,26 @@
 #include <QJsonDocument>
 #include <QJsonObject>
 #include <QRegularExpression>
-#include <QTcpSocket>
 
-LoopbackIngestion::LoopbackIngestion(QObject *parent) : QObject(parent)
+void LoopbackIngestion::received(const Request &request)
 {
-    connect(&m_server, &QTcpServer::newConnection, this, [this] {
-        while (QTcpSocket *socket = m_server.nextPendingConnection()) {
-            connect(socket, &QTcpSocket::readyRead, this, [this, socket] { readFrom(socket); });
-            connect(socket, &QTcpSocket::disconnected, socket, &QObject::deleteLater);
-        }
-    });
-}
-
-bool LoopbackIngestion::listen(quint16 port)
-{
-    if (!m_server.listen(QHostAddress::LocalHost, port))
-        return false;
-    m_port = m_server.serverPort();
-    return true;
-}
-
-QString LoopbackIngestion::baseUrl() const
-{
-    return QStringLiteral("http://127.0.0.1:%1").arg(m_port);
-}
-
-void LoopbackIngestion::readFrom(QTcpSocket *socket)
-{
-    QByteArray &buffer = m_buffers[socket];
-    buffer += socket->readAll();
-    const qsizetype headerEnd = buffer.indexOf("\r\n\r\n");
-    if (headerEnd < 0)
-        return;
-    Request request;
-    const QList<QByteArray> lines = buffer.left(headerEnd).split('\n');
-    const QList<QByteArray> requestLine = lines.value(0).trimmed().split(' ');
-    request.method = requestLine.value(0);
-    request.path = requestLine.value(1);
-    for (qsizetype i = 1; i < lines.size(); ++i) {
-        const qsizetype colon = lines.at(i).indexOf(':');
-        if (colon > 0)
-            request.headers.insert(lines.at(i).left(colon).trimmed().toLower(),
-                                   lines.at(i).mid(colon + 1).trimmed());
-    }
-    const qsizetype length = request.headers.value("content-length").toLongLong();
-    if (buffer.size() < headerEnd + 4 + length)
-        return;
-    request.body = buffer.mid(headerEnd + 4, length);
-    m_buffers.remove(socket);
-
     if (request.headers.value("content-type") != "application/json")
         problems << QStringLiteral("Content-Type is not application/json");
     const QList<QByteArray> keyParts = request.headers.value("app-key").split('-');
     if (keyParts.size() < 3 || keyParts.first() != "A")
         problems << QStringLiteral("App-Key is malformed");
     problems << validateEvents(request.body, validateTimestamps);
-    requests << request;
-
-    mostOpenRequests = std::max(mostOpenRequests, ++openRequests);
-    if (m_holding)
-        m_held << socket;
-    else
-        answer(socket);
 }
 
-void LoopbackIngestion::release()
+QJsonArray LoopbackIngestion::events(const Request &request)
 {
-    m_holding = false;
-    for (QTcpSocket *socket : std::exchange(m_held, {}))
-        answer(socket);
+    return QJsonDocument::fromJson(request.body).array();
 }
 
-void LoopbackIngestion::answer(QTcpSocket *socket)
-{
-    --openRequests;
-    const Answer next = m_script.isEmpty() ? Answer() : m_script.takeFirst();
-    if (next.status <= 0) {
-        if (next.status < 0)
-            socket->write("SSH-2.0-OpenSSH_9.2\r\n");
-        socket->flush();
-        socket->abort();
-        return;
-    }
-    socket->write("HTTP/1.1 " + QByteArray::number(next.status) + " Scripted\r\n"
-                  + "Content-Type: text/plain\r\nContent-Length: "
-                  + QByteArray::number(next.body.size()) + "\r\nConnection: close\r\n\r\n"
-                  + next.body);
-    socket->disconnectFromHost();
-}
-
-QJsonArray LoopbackIngestion::Request::events() const
-{
-    return QJsonDocument::fromJson(body).array();
-}
-
-QStringList LoopbackIngestion::Request::eventNames() const
+QStringList LoopbackIngestion::eventNames(const Request &request)
 {
     QStringList names;
-    for (const QJsonValue &event : events())
+    for (const QJsonValue &event : events(request))
         names << event[QLatin1String("eventName")].toString();
     return names;
 }

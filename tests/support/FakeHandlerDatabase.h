@@ -22,11 +22,6 @@ public:
         m_apps.insert(location, Application{identifier, std::move(name), std::move(version)});
         return location;
     }
-    // Removes the application from disk; schemes may still name it.
-    void uninstall(const QString &identifier)
-    {
-        m_apps.remove(u"/apps/" + identifier + u".desktop");
-    }
 
     void setHandlers(const QString &scheme, const QStringList &identifiers)
     {
@@ -79,7 +74,7 @@ public:
             return *it;
         // A scheme may name an application that is gone: its id is still readable
         // from the location, as a desktop file id is.
-        if (location.startsWith(u"/apps/") && location.endsWith(u".desktop") && m_readGone)
+        if (location.startsWith(u"/apps/") && location.endsWith(u".desktop"))
             return Application{location.mid(6, location.size() - 14), std::nullopt, std::nullopt};
         return std::nullopt;
     }
@@ -103,9 +98,6 @@ public:
         return 0;
     }
 
-    // Whether a location whose application is gone still yields its identifier.
-    void setReadGoneApplications(bool read) { m_readGone = read; }
-
 private:
     mutable QMutex m_mutex;
     QHash<QString, Application> m_apps;
@@ -113,7 +105,6 @@ private:
     QHash<Kind, QStringList> m_known;
     QStringList m_refused;
     QStringList m_setCalls;
-    bool m_readGone = true;
     mutable int m_schemeReads = 0;
     std::atomic<bool> m_held = false;
     QSemaphore m_writing;

@@ -6,7 +6,7 @@
 #include "ConsoleCapture.h"
 #include "FakeClock.h"
 #include "FakeTimerFactory.h"
-#include "FeedServer.h"
+#include "LoopbackHttp.h"
 #include "ScriptedPrompter.h"
 #include "Settle.h"
 #include "TempSettings.h"
@@ -32,7 +32,7 @@ public:
         options.settings = &settings.store();
         options.clock = &clock;
         options.timers = &timers;
-        options.appcastURL = feedUrl.isEmpty() ? QUrl(server.url()) : feedUrl;
+        options.appcastURL = feedUrl.isEmpty() ? QUrl(appcast()) : feedUrl;
         options.currentVersion = QStringLiteral("1.9.9");
         options.install = &install;
         options.sheet = &sheet;
@@ -61,6 +61,7 @@ public:
         settle(); // the queued answer and the updater's turn
     }
 
+    QString appcast() const { return server.baseUrl() + u"/app/Vandorel/appcast.xml"; }
     double snoozeUntil()
     {
         return settings.store().doubleValue(SettingsTable::updateSnoozeUntil.key());
@@ -71,7 +72,7 @@ public:
     LanguageManager language{settings.store(), timers, {QStringLiteral("en")}};
     ConsoleCapture console;
     FakeClock clock{QDateTime(QDate(2026, 3, 14), QTime(9, 0), Qt::UTC)};
-    FeedServer server;
+    LoopbackHttp server;
     QTemporaryDir prefixes;
     FreedesktopInstallLayout install{
         QStringLiteral("/usr/bin/vandorel"),
@@ -117,23 +118,21 @@ private Q_SLOTS:
         QFETCH(QString, answer);
         QFETCH(QStringList, lines);
         Rig rig;
-        rig.server.serve({.status = status, .body = body});
+        rig.server.serve({status, body});
 
         rig.manager->checkForUpdates(rig.recorder("check"));
         QVERIFY(rig.answers.isEmpty()); // never answers before returning
         QTRY_COMPARE(rig.answers, QStringList{answer});
-        QCOMPARE(rig.server.requestLines,
-                 QList<QByteArray>{"GET /app/Vandorel/appcast.xml HTTP/1.1"});
+        QCOMPARE(rig.server.requests.size(), 1);
+        QCOMPARE(rig.server.requests[0].line, "GET /app/Vandorel/appcast.xml HTTP/1.1");
         QCOMPARE(rig.console.lines(), lines);
     }
 
     void transportFailureAndMissingData()
     {
-        const quint16 closedPort = [] {
-            QTcpServer probe;
-            return probe.listen(QHostAddress::LocalHost) ? probe.serverPort() : quint16(1);
-        }();
-        Rig rig(false, QUrl(QStringLiteral("http://127.0.0.1:%1/a.xml").arg(closedPort)));
+        LoopbackHttp closed;
+        closed.close();
+        Rig rig(false, QUrl(closed.baseUrl() + u"/a.xml"));
         rig.manager->checkForUpdates(rig.recorder("check"));
         QTRY_COMPARE(rig.answers, QStringList{"check no -"});
         QCOMPARE(rig.console.take(), QStringList{"❌ Update check failed: Connection refused"});
@@ -158,21 +157,17 @@ private Q_SLOTS:
     {
         QFETCH(QString, how);
         Rig rig;
-        rig.server.serve({.body = feed("2.0")});
-        if (how == "cut") {
-            // The whole feed comes, then a reset short of the length announced.
-            rig.server.serve({.body = feed("2.0") + QByteArray(64, ' ')});
-            rig.server.cutOffAfter(feed("2.0").size());
-        } else if (how == "loop") {
-            rig.server.serve({.status = 302, .body = {}});
-            rig.server.redirectTo(rig.server.url().toUtf8());
-        } else {
+        rig.server.serve({200, feed("2.0")});
+        if (how == "cut") // the whole feed comes, then a reset short of the length announced
+            rig.server.serve({200, feed("2.0") + QByteArray(64, ' '), {}, feed("2.0").size()});
+        if (how == "loop")
+            rig.server.serve({302, {}, rig.appcast().toUtf8()});
+        if (how == "silent")
             rig.server.hold();
-        }
 
         rig.manager->checkForUpdates(rig.recorder("check"));
         if (how == "silent") {
-            QTRY_COMPARE(rig.server.requestLines.size(), 1);
+            QTRY_COMPARE(rig.server.requests.size(), 1);
             QCOMPARE(rig.timers.fire(59s), 0);
             QCOMPARE(rig.timers.fire(60s), 1);
         }
@@ -185,12 +180,12 @@ private Q_SLOTS:
     void supersededRequestNeverAnswers()
     {
         Rig rig;
-        rig.server.serve({.body = feed("2.0")});
+        rig.server.serve({200, feed("2.0")});
         rig.server.hold();
         rig.manager->checkForUpdates(rig.recorder("first"));
-        QTRY_COMPARE(rig.server.requestLines.size(), 1);
+        QTRY_COMPARE(rig.server.requests.size(), 1);
         rig.manager->checkForUpdates(rig.recorder("second"));
-        QTRY_COMPARE(rig.server.requestLines.size(), 2);
+        QTRY_COMPARE(rig.server.requests.size(), 2);
         rig.server.release();
 
         QTRY_COMPARE(rig.answers.size(), 1);
@@ -228,7 +223,7 @@ private Q_SLOTS:
         QCOMPARE(rig.console.take(), QStringList{found + opt + u"/Caskroom/van-dorel"});
 
         // Such a copy has no updater and never checks by itself.
-        rig.server.serve({.body = feed("9.0")});
+        rig.server.serve({200, feed("9.0")});
         QVERIFY(rig.manager->isBrewInstall()); // detected once, at the first read
         QCOMPARE(rig.manager->sparkleUpdaterController(), nullptr);
         QCOMPARE(rig.console.take().size(), 1);
@@ -267,7 +262,7 @@ private Q_SLOTS:
     void reminderSnoozeFollowsTheOfferedVersion()
     {
         Rig rig;
-        rig.server.serve({.body = feed("2.0")});
+        rig.server.serve({200, feed("2.0")});
         SettingsStore &store = rig.settings.store();
         // A busy updater shows nothing and sets no snooze; the next firing tries again.
         QVERIFY(rig.manager->checkForUpdatesWithSparkle());
@@ -299,7 +294,7 @@ private Q_SLOTS:
         QCOMPARE(rig.calls.size(), 4);
 
         // A newer version shows at once and takes the snooze over.
-        rig.server.serve({.body = feed("2.1")});
+        rig.server.serve({200, feed("2.1")});
         rig.runAutomaticCheck();
         QCOMPARE(rig.calls.size(), 6);
         QCOMPARE(rig.snoozeUntil(), epochSeconds(rig.clock.now().addSecs(4 * 3600)));
@@ -326,23 +321,23 @@ private Q_SLOTS:
     void noUpdatesIsSaidOnlyWhenAskedAndTrue()
     {
         Rig rig(true);
-        rig.server.script = {{.body = feed("2.0")}, {.body = "<html>broken"}};
+        rig.server.script({{200, feed("2.0")}, {200, "<html>broken"}});
         rig.manager->checkAutomaticallyAndPresentIfAvailable();
         QTRY_COMPARE(rig.console.startingWith("❌"), QStringList{"❌ Failed to parse appcast"});
         settle();
-        QCOMPARE(rig.server.requestLines.size(), 2);
+        QCOMPARE(rig.server.requests.size(), 2);
         QVERIFY(rig.prompter.shown().isEmpty());
         QVERIFY(rig.sheet.shown.isEmpty());
         // Nor when that look finds nothing newer.
         rig.timers.fire(8s);
-        rig.server.script = {{.body = feed("2.1")}, {.body = feed("1.0")}};
+        rig.server.script({{200, feed("2.1")}, {200, feed("1.0")}});
         rig.manager->checkAutomaticallyAndPresentIfAvailable();
         QTRY_COMPARE(rig.console.startingWith("✅ No update").size(), 1);
         settle();
         QVERIFY(rig.prompter.shown().isEmpty());
 
         rig.timers.fire(8s);
-        rig.server.serve({.body = "<html>broken"});
+        rig.server.serve({200, "<html>broken"});
         QVERIFY(rig.manager->checkForUpdatesWithSparkle());
         QTRY_COMPARE(rig.console.startingWith("❌").size(), 2);
         settle();
@@ -352,11 +347,11 @@ private Q_SLOTS:
     void ownUpdaterShowsWhatTheFeedSays()
     {
         Rig rig(true);
-        rig.server.serve({.body = feed("2.0")});
+        rig.server.serve({200, feed("2.0")});
         QVERIFY(rig.manager->checkForUpdatesWithSparkle());
         QTRY_COMPARE(rig.sheet.shown, QStringList{"2.0"});
         rig.timers.fire(8s);
-        rig.server.serve({.body = feed("1.0")});
+        rig.server.serve({200, feed("1.0")});
         QVERIFY(rig.manager->checkForUpdatesWithSparkle());
         QTRY_VERIFY(rig.prompter.isPresenting());
         QCOMPARE(rig.prompter.last().title,

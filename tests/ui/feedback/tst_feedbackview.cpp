@@ -54,7 +54,6 @@ struct Rig {
 
     explicit Rig(const QString &apiKey = QStringLiteral("key-123"))
     {
-        static_cast<void>(server.listen());
         telemetry.aptabase.startPolling();
         FeedbackForm::Options options;
         options.endpointURL = QUrl(server.baseUrl() + u"/api/feedback");

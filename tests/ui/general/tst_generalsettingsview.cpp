@@ -16,8 +16,8 @@
 #include "ui/widgets/SegmentedControl.h"
 #include "ui/widgets/ToggleSwitch.h"
 
-#include "FeedServer.h"
 #include "GuardWorld.h"
+#include "LoopbackHttp.h"
 #include "PageChecks.h"
 #include "UpdateFakes.h"
 #include "UrlCatcher.h"
@@ -45,7 +45,7 @@ struct Rig : GuardWorld {
     ConsoleCapture console;
     XdgTree tree;
     QTemporaryDir prefixes;
-    FeedServer server;
+    LoopbackHttp server;
     QStringList updaterCalls;
     RecordingSheet sheet;
     FreedesktopInstallLayout install{QStringLiteral("/usr/bin/vandorel"),
@@ -67,7 +67,7 @@ struct Rig : GuardWorld {
         options.settings = &settings.store();
         options.clock = &clock;
         options.timers = &timers;
-        options.appcastURL = QUrl(server.url());
+        options.appcastURL = QUrl(server.baseUrl() + u"/appcast.xml");
         options.currentVersion = QStringLiteral("1.9.9");
         options.install = &install;
         options.makeController = [this] {
@@ -424,7 +424,7 @@ private Q_SLOTS:
         // Leaving the page while a check runs: its answer shows nothing.
         rig.server.hold();
         click(view.checkForUpdatesButton());
-        QTRY_COMPARE(rig.server.requestLines.size(), 3);
+        QTRY_COMPARE(rig.server.requests.size(), 3);
         rig.view.reset();
         rig.server.release();
         QTRY_VERIFY(rig.console.contains(QStringLiteral("✅ No update available")));
