@@ -132,18 +132,13 @@ void choose(QComboBox *box, int index)
     Q_EMIT box->activated(index);
 }
 
-bool appliedDark()
+// Whether the application shows that look (both looks are drawn by the fusion style).
+bool applied(AppearanceMode mode)
 {
+    const QPalette look =
+        mode == AppearanceMode::dark ? Appearance::darkPalette() : Appearance::lightPalette();
     return QApplication::style()->name() == QLatin1String("fusion")
-           && QApplication::palette().color(QPalette::Window)
-                  == Appearance::darkPalette().color(QPalette::Window);
-}
-
-bool appliedLight()
-{
-    return QApplication::style()->name() == QLatin1String("fusion")
-           && QApplication::palette().color(QPalette::Window)
-                  == Appearance::lightPalette().color(QPalette::Window);
+           && QApplication::palette().color(QPalette::Window) == look.color(QPalette::Window);
 }
 
 } // namespace
@@ -153,9 +148,7 @@ class GeneralSettingsViewTest : public QObject {
 private Q_SLOTS:
     void initTestCase()
     {
-        const QFontMetrics metrics(QApplication::font());
-        QVERIFY2(metrics.horizontalAdvance("iiii") < metrics.horizontalAdvance("WWWW"),
-                 "no real font: screenshots would show boxes");
+        QVERIFY2(PageChecks::hasRealFont(), "no real font: screenshots would show boxes");
     }
     void cleanup() { Appearance::apply(AppearanceMode::system); }
 
@@ -314,16 +307,16 @@ private Q_SLOTS:
         rig.settings.store().setString(SettingsTable::appearanceMode.key(), QStringLiteral("dark"));
         auto hidden = std::make_unique<GeneralSettingsView>(rig.views());
         settle();
-        QVERIFY(!appliedDark());
+        QVERIFY(!applied(AppearanceMode::dark));
         hidden.reset();
         GeneralSettingsView &view = rig.show();
-        QTRY_VERIFY(appliedDark());
+        QTRY_VERIFY(applied(AppearanceMode::dark));
         QVERIFY(rig.telemetry.take().contains(u"trackScreenView(settings_general)"_qs));
 
         click(view.appearancePicker()->segment(int(AppearanceMode::light)));
-        QVERIFY(appliedDark());
+        QVERIFY(applied(AppearanceMode::dark));
         QCoreApplication::sendPostedEvents();
-        QVERIFY(appliedLight());
+        QVERIFY(applied(AppearanceMode::light));
         QCOMPARE(rig.settings.store().stringValue(SettingsTable::appearanceMode.key()),
                  QStringLiteral("light"));
         QCOMPARE(rig.reportedSettings(), QStringList{"appearance=light"});
@@ -334,7 +327,7 @@ private Q_SLOTS:
         view.hide();
         view.show();
         settle();
-        QVERIFY(appliedLight());
+        QVERIFY(applied(AppearanceMode::light));
     }
 
     void launchesAtLoginThroughTheAutostartEntry()

@@ -99,9 +99,7 @@ class LogViewTest : public QObject {
 private Q_SLOTS:
     void initTestCase()
     {
-        const QFontMetrics metrics(QApplication::font());
-        QVERIFY2(metrics.horizontalAdvance("iiii") < metrics.horizontalAdvance("WWWW"),
-                 "no real font: screenshots would show boxes");
+        QVERIFY2(PageChecks::hasRealFont(), "no real font: screenshots would show boxes");
     }
 
     void filtersTheCopyAndShowsTheEmptyState()
@@ -245,12 +243,8 @@ private Q_SLOTS:
                      rig.text(std::array{"log_filter_all", "log_filter_browser",
                                          "log_filter_email"}[i]));
         }
-        for (QPushButton *button :
-             {view.refreshButton(), view.exportButton(), view.clearButton()}) {
+        for (QPushButton *button : {view.refreshButton(), view.exportButton(), view.clearButton()})
             QVERIFY(button->isEnabled());
-            QCOMPARE(QAccessible::queryAccessibleInterface(button)->text(QAccessible::Name),
-                     button->text());
-        }
     }
 
     // Every language fits the page without a horizontal scroll bar; English and the longest

@@ -5,6 +5,7 @@
 
 #include "ConsoleCapture.h"
 #include "FakeTimerFactory.h"
+#include "PageChecks.h"
 #include "TempSettings.h"
 
 #include <QApplication>
@@ -64,11 +65,6 @@ bool showsTick(const QToolButton &button)
     return balance > 0;
 }
 
-void saveScreenshot(QWidget &widget, const QString &name)
-{
-    QVERIFY(widget.grab().save(u"/tmp/" + name + u".png"));
-}
-
 } // namespace
 
 class UpdateAvailableViewTest : public QObject {
@@ -79,7 +75,7 @@ private Q_SLOTS:
         Rig rig;
         auto view = rig.sheet(QStringLiteral("2.0"), false);
         QVERIFY(view);
-        saveScreenshot(*view, QStringLiteral("update-sheet-plain"));
+        QVERIFY(PageChecks::saveScreenshot(*view, QStringLiteral("update-sheet-plain")));
         QVERIFY(!view->brewSection());
         QVERIFY(view->findChildren<QToolButton *>().isEmpty());
         QCOMPARE(view->windowTitle(), rig.text("update_available_title"));
@@ -100,7 +96,7 @@ private Q_SLOTS:
         Rig rig;
         auto view = rig.sheet(QStringLiteral("2.0"), true);
         QVERIFY(view && view->brewSection());
-        saveScreenshot(*view, QStringLiteral("update-sheet-brew"));
+        QVERIFY(PageChecks::saveScreenshot(*view, QStringLiteral("update-sheet-brew")));
         auto *command = view->brewSection()->findChild<QLabel *>(QStringLiteral("brewCommand"));
         QCOMPARE(command->text(), QStringLiteral("brew upgrade vandorel"));
         QVERIFY(command->textInteractionFlags() & Qt::TextSelectableByMouse);
@@ -114,7 +110,7 @@ private Q_SLOTS:
         QCOMPARE(clipboard->mimeData()->formats(), QStringList{"text/plain"});
         QCOMPARE(clipboard->text(), QStringLiteral("brew upgrade vandorel"));
         QVERIFY(view->isCopied() && showsTick(*view->copyButton()));
-        saveScreenshot(*view, QStringLiteral("update-sheet-brew-copied"));
+        QVERIFY(PageChecks::saveScreenshot(*view, QStringLiteral("update-sheet-brew-copied")));
 
         // The tick clears two seconds after the first click, whatever came after it.
         view->copyBrewCommand();
