@@ -298,24 +298,12 @@ private slots:
     void realEntries()
     {
         XdgTree tree;
-        const QString fixtures = qEnvironmentVariable("VANDOREL_SOURCE_DIR")
-                                 + QStringLiteral("/tests/platform/fixtures/");
-        // The packages' entries name absolute programs; rebase them into the tree's root.
-        for (const char *name : {"firefox-esr", "chromium", "thunderbird"}) {
-            QFile fixture(fixtures + QLatin1String(name) + QStringLiteral(".desktop"));
-            QVERIFY(fixture.open(QIODevice::ReadOnly));
-            const QByteArray rebased = "Exec=" + tree.path(QStringLiteral("root/usr/")).toUtf8();
-            const QByteArray content = fixture.readAll().replace("Exec=/usr/", rebased);
-            tree.write(QStringLiteral("share2/applications/") + QLatin1String(name)
-                           + QStringLiteral(".desktop"),
-                       content);
-        }
-        for (const char *program : {"root/usr/lib/firefox-esr/firefox-esr", "root/usr/bin/chromium",
-                                    "root/usr/bin/thunderbird"}) {
-            tree.write(QLatin1String(program), "#!/bin/sh\n");
-            QFile::setPermissions(tree.path(QLatin1String(program)),
-                                  QFileDevice::ReadOwner | QFileDevice::ExeOwner);
-        }
+        for (const char *name : {"firefox-esr", "chromium", "thunderbird"})
+            QVERIFY(!tree.installFixture(qEnvironmentVariable("VANDOREL_SOURCE_DIR")
+                                             + u"/tests/platform/fixtures/" + QLatin1String(name)
+                                             + u".desktop",
+                                         QStringLiteral("share2/applications"))
+                         .isEmpty());
         tree.updateCaches();
         for (const char *scheme : {"http", "https", "mailto"}) {
             compareWithGio(QLatin1String(scheme));
