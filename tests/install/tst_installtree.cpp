@@ -1,4 +1,5 @@
 #include "InstalledCopy.h"
+#include "ProgramRun.h"
 
 #include "platform/freedesktop/DesktopEntry.h"
 #include "platform/freedesktop/KeyFileScanner.h"
@@ -41,14 +42,10 @@ class InstallTreeTest : public QObject {
     // Runs a validator; its complaints, if any, become the failure message.
     static QString complaints(const QString &program, const QStringList &arguments)
     {
-        QProcess process;
-        process.setProcessChannelMode(QProcess::MergedChannels);
-        process.start(program, arguments);
-        if (!process.waitForFinished(60000))
+        const ProgramRun run = runProgram(program, arguments, 60000, true);
+        if (run.exitCode < 0)
             return program + u" did not finish";
-        const QString output = QString::fromUtf8(process.readAll());
-        return process.exitStatus() == QProcess::NormalExit && process.exitCode() == 0 ? QString()
-                                                                                       : output;
+        return run.succeeded() ? QString() : run.text();
     }
 
     // The interface languages other than English, as the string tables name them.

@@ -1,4 +1,5 @@
 #include "BuildConfig.h"
+#include "ProgramRun.h"
 
 #include <QDir>
 #include <QProcess>
@@ -19,15 +20,10 @@ class PackageTest : public QObject {
         QString out;
     };
 
-    static Result run(const QString &program, const QStringList &arguments,
-                      QProcess::ProcessChannelMode channels = QProcess::SeparateChannels)
+    static Result run(const QString &program, const QStringList &arguments, bool merged = false)
     {
-        QProcess process;
-        process.setProcessChannelMode(channels);
-        process.start(program, arguments);
-        if (!process.waitForFinished(300000) || process.exitStatus() != QProcess::NormalExit)
-            return {-1, program + u" did not finish"};
-        return {process.exitCode(), QString::fromUtf8(process.readAllStandardOutput())};
+        const ProgramRun run = runProgram(program, arguments, 300000, merged);
+        return {run.exitCode, run.exitCode < 0 ? program + u" did not finish" : run.text()};
     }
 
     QString field(const char *name) const
@@ -44,7 +40,7 @@ private Q_SLOTS:
                                 {QStringLiteral("--config"),
                                  QStringLiteral(VANDOREL_BUILD_DIR "/CPackConfig.cmake"),
                                  QStringLiteral("-B"), m_dir.path()},
-                                QProcess::MergedChannels);
+                                true);
         QVERIFY2(pack.exitCode == 0, qPrintable(pack.out));
         const QStringList debs = QDir(m_dir.path()).entryList({QStringLiteral("*.deb")});
         QCOMPARE(debs.size(), 1);
@@ -130,8 +126,7 @@ private Q_SLOTS:
     // What apt would do with it on this system, without doing it.
     void aptCanInstallIt()
     {
-        const Result apt = run(QStringLiteral("apt-get"), {"--simulate", "install", m_deb},
-                               QProcess::MergedChannels);
+        const Result apt = run(QStringLiteral("apt-get"), {"--simulate", "install", m_deb}, true);
         QVERIFY2(apt.exitCode == 0, qPrintable(apt.out));
         QVERIFY2(apt.out.contains(u"Inst vandorel "), qPrintable(apt.out));
     }

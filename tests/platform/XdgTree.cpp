@@ -1,4 +1,5 @@
 #include "XdgTree.h"
+#include "ProgramRun.h"
 
 #include <QDir>
 #include <QFile>
@@ -14,12 +15,7 @@ const QList<QByteArray> managedVariables{"HOME",          "XDG_CONFIG_HOME", "XD
 
 QString runTool(const QString &program, const QStringList &arguments)
 {
-    QProcess process;
-    process.setProcessChannelMode(QProcess::SeparateChannels);
-    process.start(program, arguments);
-    if (!process.waitForFinished(30000))
-        return {};
-    return QString::fromUtf8(process.readAllStandardOutput());
+    return runProgram(program, arguments, 30000).text();
 }
 
 } // namespace

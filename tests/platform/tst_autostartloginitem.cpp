@@ -1,3 +1,4 @@
+#include "ProgramRun.h"
 #include "platform/freedesktop/AutostartLoginItem.h"
 #include "platform/freedesktop/DesktopEntry.h"
 
@@ -16,13 +17,11 @@ const QString entryFile = QStringLiteral("config/autostart/io.kestrane.vandorel.
 // desktop-file-validate's verdict: empty when it accepts the file, else what it said.
 QString validatorComplaints(const QString &path)
 {
-    QProcess validate;
-    validate.setProcessChannelMode(QProcess::MergedChannels);
-    validate.start(QStringLiteral("desktop-file-validate"), {path});
-    if (!validate.waitForFinished(30000))
+    const ProgramRun validate =
+        runProgram(QStringLiteral("desktop-file-validate"), {path}, 30000, true);
+    if (validate.exitCode < 0)
         return QStringLiteral("desktop-file-validate did not run");
-    const QString output = QString::fromUtf8(validate.readAll());
-    return validate.exitCode() == 0 && output.isEmpty() ? QString() : output;
+    return validate.succeeded() && validate.out.isEmpty() ? QString() : validate.text();
 }
 
 void setMode(const QString &path, QFileDevice::Permissions mode)

@@ -1,3 +1,4 @@
+#include "ProgramRun.h"
 #include "platform/freedesktop/FreedesktopHandlerDatabase.h"
 
 #include "XdgTree.h"
@@ -27,9 +28,7 @@ class DesktopLinkStoreTest : public QObject {
 
     static bool run(const QString &program, const QStringList &arguments)
     {
-        QProcess process;
-        process.start(program, arguments);
-        return process.waitForFinished(60000) && process.exitCode() == 0;
+        return runProgram(program, arguments).succeeded();
     }
 
 private Q_SLOTS:

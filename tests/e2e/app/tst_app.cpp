@@ -1,3 +1,4 @@
+#include "ProgramRun.h"
 #include "XdgTree.h"
 
 #include "BuildConfig.h"
@@ -37,18 +38,6 @@ class AppTest : public QObject {
                      .isEmpty());
     }
 
-    static QJsonObject status(QStringList *consoleLines = nullptr)
-    {
-        QProcess process;
-        process.start(QStringLiteral(VANDOREL_BINARY), {QStringLiteral("--status")});
-        if (!process.waitForFinished(30000) || process.exitCode() != 0)
-            return {};
-        if (consoleLines)
-            *consoleLines =
-                QString::fromUtf8(process.readAllStandardError()).split(u'\n', Qt::SkipEmptyParts);
-        return QJsonDocument::fromJson(process.readAllStandardOutput()).object();
-    }
-
     static QStringList installedNames(const QJsonObject &report, const char *side)
     {
         QStringList names;
@@ -76,38 +65,40 @@ class AppTest : public QObject {
 
     static bool run(const QString &program, const QStringList &arguments)
     {
-        QProcess process;
-        process.start(program, arguments);
-        return process.waitForFinished(60000) && process.exitCode() == 0;
+        return runProgram(program, arguments).succeeded();
     }
 
-    struct Answer {
-        int exitCode = -1;
-        QByteArray out;
-        QByteArray err;
-    };
-
-    static Answer ask(const QStringList &arguments)
+    static ProgramRun ask(const QStringList &arguments)
     {
-        QProcess process;
-        process.start(QStringLiteral(VANDOREL_BINARY), arguments);
-        if (!process.waitForFinished(30000) || process.exitStatus() != QProcess::NormalExit)
-            return {};
-        return {process.exitCode(), process.readAllStandardOutput(),
-                process.readAllStandardError()};
+        return runProgram(QStringLiteral(VANDOREL_BINARY), arguments, 30000);
+    }
+
+    static QJsonObject status(QStringList *consoleLines = nullptr)
+    {
+        const ProgramRun answer = ask({QStringLiteral("--status")});
+        if (consoleLines)
+            *consoleLines = QString::fromUtf8(answer.err).split(u'\n', Qt::SkipEmptyParts);
+        return answer.exitCode == 0 ? QJsonDocument::fromJson(answer.out).object() : QJsonObject();
     }
 
     static inline const QString settingsFile =
         QStringLiteral("config/io.kestrane.vandorel/settings.ini");
     QString settingsPath() const { return m_tree->path(settingsFile); }
 
-    // Starts the program on the offscreen platform.
-    static void launch(QProcess &program, const QStringList &arguments = {})
+    // Starts the program on the offscreen platform, behind `shell` if given (which ends in
+    // `exec "$0"`), with its own runtime directory (where its lock lives) if given.
+    static void launch(QProcess &program, const QStringList &arguments = {},
+                       const QString &shell = {}, const QString &runtime = {})
     {
         QProcessEnvironment env = QProcessEnvironment::systemEnvironment();
         env.insert(QStringLiteral("QT_QPA_PLATFORM"), QStringLiteral("offscreen"));
+        if (!runtime.isEmpty())
+            env.insert(QStringLiteral("XDG_RUNTIME_DIR"), runtime);
         program.setProcessEnvironment(env);
-        program.start(QStringLiteral(VANDOREL_BINARY), arguments);
+        if (shell.isEmpty())
+            program.start(QStringLiteral(VANDOREL_BINARY), arguments);
+        else
+            program.start(QStringLiteral("sh"), {"-c", shell, QStringLiteral(VANDOREL_BINARY)});
     }
 
     // Collects the program's output into `out` until it holds `text`.
@@ -284,7 +275,7 @@ private Q_SLOTS:
     // file appears, and a running copy does not keep them from answering.
     void helpVersionAndMistakesStartNothing()
     {
-        const Answer help = ask({QStringLiteral("--help")});
+        const ProgramRun help = ask({QStringLiteral("--help")});
         QCOMPARE(help.exitCode, 0);
         const QByteArray usage = help.out.left(help.out.indexOf('\n') + 1);
         QCOMPARE(usage, QByteArray("Usage: " VANDOREL_BINARY " [options] [url]\n"));
@@ -292,7 +283,8 @@ private Q_SLOTS:
         const QByteArray version = "Vandorel " + QByteArray(BuildConfig::appVersion) + " ("
                                    + QByteArray(BuildConfig::buildNumber) + ")\n";
         QCOMPARE(ask({QStringLiteral("--version")}).out, version);
-        const Answer wrong = ask({QStringLiteral("--bogus"), QStringLiteral("vandorel://about")});
+        const ProgramRun wrong =
+            ask({QStringLiteral("--bogus"), QStringLiteral("vandorel://about")});
         QCOMPARE(wrong.exitCode, 2);
         QCOMPARE(wrong.out, QByteArray());
         QCOMPARE(wrong.err, "Unknown option 'bogus'.\n" + usage);
@@ -344,23 +336,13 @@ private Q_SLOTS:
         again.waitForFinished(5000);
     }
 
-    // Starts the program with its own runtime directory, where its lock lives, and waits
-    // until it has started; `shell` runs in front of it (ending in `exec "$0"`).
-    bool startInOwnRuntime(QProcess &program, const QTemporaryDir &runtime,
-                           const QString &shell = QStringLiteral("exec \"$0\""))
+    // Starts the program with its own runtime directory and waits until it has started.
+    static bool startInOwnRuntime(QProcess &program, const QTemporaryDir &runtime,
+                                  const QString &shell = QStringLiteral("exec \"$0\""))
     {
-        QProcessEnvironment env = QProcessEnvironment::systemEnvironment();
-        env.insert(QStringLiteral("QT_QPA_PLATFORM"), QStringLiteral("offscreen"));
-        env.insert(QStringLiteral("XDG_RUNTIME_DIR"), runtime.path());
-        program.setProcessEnvironment(env);
-        program.start(QStringLiteral("sh"), {"-c", shell, QStringLiteral(VANDOREL_BINARY)});
+        launch(program, {}, shell, runtime.path());
         QByteArray out;
-        return QTest::qWaitFor(
-            [&] {
-                out += program.readAllStandardOutput();
-                return out.contains("🚀 App launched");
-            },
-            20000);
+        return printed(program, out, "🚀 App launched");
     }
 
     // The signals a process ignores and catches, from the kernel.

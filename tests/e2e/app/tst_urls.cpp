@@ -1,5 +1,6 @@
 #include "InstalledCopy.h"
 #include "PrivateBuses.h"
+#include "ProgramRun.h"
 #include "XdgTree.h"
 #include "XvfbDisplay.h"
 
@@ -22,22 +23,9 @@ class UrlsTest : public QObject {
     std::unique_ptr<QProcess> m_first;
     QByteArray m_firstOut;
 
-    struct Finished {
-        int exitCode = -1;
-        QByteArray out;
-        qint64 ms = -1;
-    };
-
-    // Runs a command to its end and notes how long it took.
-    static Finished run(const QString &program, const QStringList &arguments)
+    static ProgramRun run(const QString &program, const QStringList &arguments)
     {
-        QProcess process;
-        QElapsedTimer clock;
-        clock.start();
-        process.start(program, arguments);
-        if (!process.waitForFinished(30000) || process.exitStatus() != QProcess::NormalExit)
-            return {};
-        return {process.exitCode(), process.readAllStandardOutput(), clock.elapsed()};
+        return runProgram(program, arguments, 30000);
     }
 
     struct Window {
@@ -50,7 +38,7 @@ class UrlsTest : public QObject {
     QList<Window> shown() const
     {
         QSet<QString> visible;
-        const Finished search =
+        const ProgramRun search =
             run(QStringLiteral("xdotool"),
                 {"search", "--onlyvisible", "--pid", QString::number(m_first->processId())});
         for (const QString &id : QString::fromUtf8(search.out).split(u'\n', Qt::SkipEmptyParts))
@@ -59,7 +47,7 @@ class UrlsTest : public QObject {
         static const QRegularExpression line(
             QStringLiteral("^\\s+0x([0-9a-f]+) .* (\\d+)x(\\d+)\\+-?\\d+\\+-?\\d+ .*$"));
         QList<Window> windows;
-        const Finished tree = run(QStringLiteral("xwininfo"), {"-root", "-children"});
+        const ProgramRun tree = run(QStringLiteral("xwininfo"), {"-root", "-children"});
         for (const QString &text : QString::fromUtf8(tree.out).split(u'\n')) {
             const QRegularExpressionMatch match = line.match(text);
             if (match.hasMatch() && visible.contains(match.captured(1)))
@@ -140,10 +128,12 @@ private Q_SLOTS:
     {
         startFirstCopy({});
         QCOMPARE(stack(), QString());
-        const Finished later = run(QStringLiteral("vandorel"), {"vandorel://settings"});
+        QElapsedTimer clock;
+        clock.start();
+        const ProgramRun later = run(QStringLiteral("vandorel"), {"vandorel://settings"});
         QCOMPARE(later.exitCode, 0);
         QCOMPARE(later.out, QByteArray());
-        qInfo("The later copy ended after %lld ms", later.ms);
+        qInfo("The later copy ended after %lld ms", clock.elapsed());
         QTRY_COMPARE_WITH_TIMEOUT(stack(), QString("settings"), 10000);
     }
 
@@ -163,7 +153,7 @@ private Q_SLOTS:
         const QString before = stack();
         const QByteArray settings =
             m_tree->read(QStringLiteral("config/io.kestrane.vandorel/settings.ini"));
-        const Finished second = run(QStringLiteral("vandorel"), {});
+        const ProgramRun second = run(QStringLiteral("vandorel"), {});
         QCOMPARE(second.exitCode, 0);
         QCOMPARE(second.out,
                  QByteArray("⚠️ Another instance is already running. Exiting...\n"));
@@ -176,7 +166,7 @@ private Q_SLOTS:
     void anUnknownUrlIsIgnored()
     {
         const QString before = stack();
-        const Finished other = run(QStringLiteral("vandorel"), {"https://example.org/settings"});
+        const ProgramRun other = run(QStringLiteral("vandorel"), {"https://example.org/settings"});
         QCOMPARE(other.exitCode, 0);
         QCOMPARE(other.out, QByteArray("⚠️ Unknown URL: https://example.org/settings\n"
                                        "⚠️ Another instance is already running. Exiting...\n"));

@@ -1,4 +1,5 @@
 #include "../../core/guard/GuardWorld.h"
+#include "ProgramRun.h"
 #include "XdgTree.h"
 #include "core/guard/BrowserManager.h"
 #include "core/guard/EmailClientManager.h"
@@ -29,10 +30,7 @@ class GuardEndToEndTest : public QObject {
         QStringList arguments{"default", id + u".desktop"};
         for (const QString &scheme : schemes)
             arguments.append(u"x-scheme-handler/" + scheme);
-        QProcess process;
-        process.start("xdg-mime", arguments);
-        return process.waitForFinished(30000) && process.exitStatus() == QProcess::NormalExit
-               && process.exitCode() == 0;
+        return runProgram(QStringLiteral("xdg-mime"), arguments, 30000).succeeded();
     }
 
     // The guard world with the real handler database in place of its fake one.
