@@ -4,6 +4,7 @@
 #include "core/guard/HandlerDetector.h"
 #include "platform/freedesktop/FreedesktopHandlerDatabase.h"
 
+#include <QDir>
 #include <QTest>
 
 // The guards' installed lists over the desktop entries of Debian 12's browser and mail
@@ -34,36 +35,12 @@ private Q_SLOTS:
     void everyInstalledProgramIsListedOnceUnderItsHandlingEntry()
     {
         XdgTree tree;
-        // Every entry of the packages, as dpkg installs them; Luakit and Sylpheed have
-        // their entries but not their programs.
-        const QStringList entries{"chromium",
-                                  "dillo",
-                                  "firefox-esr",
-                                  "kfmclient",
-                                  "kfmclient_dir",
-                                  "kfmclient_html",
-                                  "kfmclient_war",
-                                  "konqbrowser",
-                                  "links2",
-                                  "netsurf-gtk",
-                                  "org.gnome.Epiphany",
-                                  "org.kde.falkon",
-                                  "org.kde.konqueror",
-                                  "org.qutebrowser.qutebrowser",
-                                  "balsa-mailto-handler",
-                                  "claws-mail",
-                                  "geary-autostart",
-                                  "kmail_view",
-                                  "neomutt",
-                                  "org.desktop.Balsa",
-                                  "org.gnome.Evolution",
-                                  "org.gnome.Geary",
-                                  "org.kde.kmail-refresh-settings",
-                                  "org.kde.kmail2",
-                                  "thunderbird"};
-        for (const QString &id : entries + QStringList{"luakit", "sylpheed"}) {
-            const bool installed = id != u"luakit" && id != u"sylpheed";
-            QVERIFY(!tree.installFixture(QStringLiteral(FIXTURES_DIR "/") + id + u".desktop",
+        // Every entry of the packages (the fixtures), as dpkg installs them; Luakit and
+        // Sylpheed have their entries but not their programs.
+        const QDir fixtures(QStringLiteral(FIXTURES_DIR));
+        for (const QString &file : fixtures.entryList({QStringLiteral("*.desktop")})) {
+            const bool installed = file != u"luakit.desktop" && file != u"sylpheed.desktop";
+            QVERIFY(!tree.installFixture(fixtures.filePath(file),
                                          QStringLiteral("share2/applications"), installed)
                          .isEmpty());
         }

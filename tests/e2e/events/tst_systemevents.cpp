@@ -180,19 +180,6 @@ private Q_SLOTS:
         QTRY_COMPARE(console.startingWith("🔍").size(), 1);
         QVERIFY(delivered(logind));
         QCOMPARE(console.startingWith("🔍"), QStringList({"🔍 Email: Checking after wake"}));
-
-        // A snooze silences the events of its guard until it ends (one hour by default).
-        console.take();
-        browser.setCheckOnWake(true);
-        browser.snoozeMonitoring();
-        logind.sleep(false);
-        QTRY_COMPARE(console.startingWith("🔍").size(), 1);
-        QVERIFY(delivered(logind));
-        QCOMPARE(console.startingWith("🔍"), QStringList({"🔍 Email: Checking after wake"}));
-        console.take();
-        world.clock.advance(3601);
-        logind.sleep(false);
-        QTRY_COMPARE(console.startingWith("🔍").size(), 2);
     }
 };
 
