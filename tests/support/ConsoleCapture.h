@@ -2,32 +2,42 @@
 
 #include "foundation/Console.h"
 
+#include <QMutex>
 #include <QStringList>
 
-// Collects console lines while it lives.
+#include <utility>
+
+// Collects console lines while it lives. Lines may come from a worker thread (a default
+// change's system calls), so every reading takes a copy under the lock.
 class ConsoleCapture {
 public:
     ConsoleCapture()
     {
-        Console::setSink([this](const QString &line) { m_lines.append(line); });
+        Console::setSink([this](const QString &line) {
+            QMutexLocker lock(&m_mutex);
+            m_lines.append(line);
+        });
     }
     ~ConsoleCapture() { Console::setSink({}); }
     ConsoleCapture(const ConsoleCapture &) = delete;
     ConsoleCapture &operator=(const ConsoleCapture &) = delete;
 
-    const QStringList &lines() const { return m_lines; }
+    QStringList lines() const
+    {
+        QMutexLocker lock(&m_mutex);
+        return m_lines;
+    }
     QStringList take()
     {
-        QStringList taken = m_lines;
-        m_lines.clear();
-        return taken;
+        QMutexLocker lock(&m_mutex);
+        return std::exchange(m_lines, {});
     }
-    bool contains(const QString &line) const { return m_lines.contains(line); }
-    qsizetype count(const QString &line) const { return m_lines.count(line); }
+    bool contains(const QString &line) const { return lines().contains(line); }
+    qsizetype count(const QString &line) const { return lines().count(line); }
     QStringList startingWith(const QString &prefix) const
     {
         QStringList result;
-        for (const QString &line : m_lines) {
+        for (const QString &line : lines()) {
             if (line.startsWith(prefix))
                 result.append(line);
         }
@@ -35,5 +45,6 @@ public:
     }
 
 private:
+    mutable QMutex m_mutex;
     QStringList m_lines;
 };
