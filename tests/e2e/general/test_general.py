@@ -15,7 +15,7 @@ sys.path.insert(0, os.path.join(os.path.dirname(os.path.abspath(__file__)), ".."
 
 import accessible  # noqa: E402
 from desktop import Desktop, wait_for  # noqa: E402
-from test_shell import SHOTS, Shell  # noqa: E402
+from test_shell import NO_TRAY, SHOTS, Shell  # noqa: E402
 
 BINARY = os.environ["VANDOREL_BINARY"]
 ENTRY = "home/.config/autostart/io.kestrane.vandorel.desktop"
@@ -50,6 +50,9 @@ class GeneralPageTest(unittest.TestCase):
             self.assertIsNotNone(shutil.which(tool), tool)
         program = d.start_program(BINARY)
         self.addCleanup(program.stop)
+        # A tray that comes up while the program looks for one makes it build its icon
+        # twice: the first icon found would be gone by the click.
+        program.wait_for_line(NO_TRAY)
         d.start_tray()
         shell = Shell(d, program)
         panel, _ = shell.open_panel()
