@@ -61,6 +61,7 @@ VandorelApp::VandorelApp(const Options &options)
     m_environment.telemetry = m_telemetry.get();
     m_environment.texts = m_language;
     m_environment.launchedAtLogin = options.launchedAtLogin;
+    m_environment.changeWatchers = &PlatformBackend::createHandlerChangeWatcher;
 
     m_delegate = new AppDelegate(this);
     m_browserManager = std::make_unique<BrowserManager>(m_environment);

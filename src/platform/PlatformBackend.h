@@ -1,6 +1,7 @@
 #pragma once
 
 #include "platform/DeviceFacts.h"
+#include "platform/HandlerChangeWatcher.h"
 #include "platform/HandlerDatabase.h"
 #include "platform/InstallLayout.h"
 #include "platform/LoginItem.h"
@@ -16,6 +17,8 @@
 class PlatformBackend {
 public:
     static std::unique_ptr<HandlerDatabase> createHandlerDatabase();
+    // A watcher of the files the handler database decides defaults by.
+    static std::unique_ptr<HandlerChangeWatcher> createHandlerChangeWatcher();
     static std::unique_ptr<SingleInstance> createSingleInstance(const QString &appId);
     static std::unique_ptr<SystemEvents> createSystemEvents();
     // Launch at login of the running executable.

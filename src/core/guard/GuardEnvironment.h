@@ -1,6 +1,10 @@
 #pragma once
 
+#include <functional>
+#include <memory>
+
 class Clock;
+class HandlerChangeWatcher;
 class HandlerDatabase;
 class LogManager;
 class ModalPrompter;
@@ -23,4 +27,7 @@ struct GuardEnvironment {
     SystemEvents *events = nullptr;    // may be absent: no event then runs a check
     // The program was started by the login mechanism (the autostart entry's --login).
     bool launchedAtLogin = false;
+    // Makes a watcher of the files that decide a default; may be absent: only the interval
+    // then finds a change.
+    std::function<std::unique_ptr<HandlerChangeWatcher>()> changeWatchers = nullptr;
 };

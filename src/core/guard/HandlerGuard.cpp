@@ -1,6 +1,7 @@
 #include "core/guard/HandlerGuard.h"
 
 #include "core/changelog/LogManager.h"
+#include "core/guard/DefaultFileMonitor.h"
 #include "core/guard/HandlerDetector.h"
 #include "core/i18n/TextLookup.h"
 #include "core/support/CheckedMath.h"
@@ -10,6 +11,7 @@
 #include "foundation/Console.h"
 #include "foundation/Timer.h"
 #include "foundation/TimerFactory.h"
+#include "platform/HandlerChangeWatcher.h"
 #include "platform/HandlerDatabase.h"
 #include "platform/ModalPrompter.h"
 #include "platform/SystemEvents.h"
@@ -40,6 +42,12 @@ HandlerGuard::HandlerGuard(const GuardProfile &profile, const GuardEnvironment &
     if (m_env.alerts)
         connect(m_env.alerts, &ModalPrompter::presentingChanged, this,
                 &HandlerGuard::alertsPresentingChanged);
+    if (m_env.changeWatchers) {
+        m_defaultFiles = new DefaultFileMonitor(m_env.changeWatchers(), *m_env.timers,
+                                                m_profile.resolutionSchemes, this);
+        connect(m_defaultFiles, &DefaultFileMonitor::changed, this,
+                &HandlerGuard::defaultFilesChanged);
+    }
     setDefaultsIfNeeded();
     detectInstalled();
     updateCurrentDefault();
@@ -76,6 +84,7 @@ void HandlerGuard::setTarget(const std::optional<HandlerRecord> &record)
         else
             m_env.telemetry->trackEmailClientSet(record->name);
     }
+    followDefaultFiles();
     Q_EMIT objectWillChange();
 }
 
@@ -214,6 +223,7 @@ void HandlerGuard::setInstalled(const QList<HandlerRecord> &records)
 void HandlerGuard::setCurrentDefault(const std::optional<HandlerRecord> &record)
 {
     m_currentDefault = record;
+    followDefaultFiles();
     Q_EMIT objectWillChange();
 }
 
@@ -274,12 +284,15 @@ void HandlerGuard::startMonitoring()
         connect(m_monitoringTimer, &Timer::timeout, this, &HandlerGuard::monitoringTimeout);
     }
     m_monitoringTimer->start(std::chrono::milliseconds(qRound64(seconds * 1000)), true);
+    followDefaultFiles();
 }
 
 void HandlerGuard::stopMonitoring()
 {
     if (m_monitoringTimer)
         m_monitoringTimer->stop();
+    if (m_defaultFiles)
+        m_defaultFiles->stop();
     m_tickMissed = false;
 }
 
@@ -326,6 +339,33 @@ void HandlerGuard::timerFired()
         setSnoozed(false);
     }
     check();
+}
+
+// While the interval runs, the files that decide the default are watched: those of the
+// current default's and the target's entries among them.
+void HandlerGuard::followDefaultFiles()
+{
+    if (!m_defaultFiles || !m_monitoringTimer || !m_monitoringTimer->isActive())
+        return;
+    QStringList identifiers;
+    for (const auto &record : {m_currentDefault, target()}) {
+        if (record && !identifiers.contains(record->bundleIdentifier))
+            identifiers.append(record->bundleIdentifier);
+    }
+    m_defaultFiles->watch(identifiers);
+}
+
+// A changed file runs the tick's check at once, under the tick's conditions, and the
+// interval starts again. One that comes while an alert is up or while our own change is
+// being made is dropped: the alert is already about it, or the change made it.
+void HandlerGuard::defaultFilesChanged()
+{
+    if (!m_monitoringTimer || !m_monitoringTimer->isActive() || m_isChanging)
+        return;
+    if (m_env.alerts && m_env.alerts->isPresenting())
+        return;
+    m_monitoringTimer->start(m_monitoringTimer->interval(), true);
+    timerFired();
 }
 
 void HandlerGuard::check()

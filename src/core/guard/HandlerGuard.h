@@ -15,6 +15,7 @@
 
 #include <optional>
 
+class DefaultFileMonitor;
 class Timer;
 
 // Keeps one default handler in place: the browser guard and the mail guard are this one
@@ -94,6 +95,8 @@ private:
     void restartMonitoring();
     void monitoringTimeout();
     void timerFired();
+    void defaultFilesChanged();
+    void followDefaultFiles();
     void alertsPresentingChanged(bool presenting);
     void runMissedTick();
 
@@ -120,6 +123,8 @@ private:
     bool m_isSnoozed = false;
     bool m_isChanging = false;
     Timer *m_monitoringTimer = nullptr;
+    // Runs the tick's check as soon as a file that decides the default changes.
+    DefaultFileMonitor *m_defaultFiles = nullptr;
     std::optional<QDateTime> m_snoozeUntil;
     // A monitoring tick that came while an alert was up; it runs once the alert is gone and
     // any change its answer started has ended.

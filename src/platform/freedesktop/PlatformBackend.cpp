@@ -3,6 +3,7 @@
 #include "platform/freedesktop/AutostartLoginItem.h"
 #include "platform/freedesktop/DBusUrlHandOver.h"
 #include "platform/freedesktop/FreedesktopDeviceFacts.h"
+#include "platform/freedesktop/FreedesktopHandlerChangeWatcher.h"
 #include "platform/freedesktop/FreedesktopHandlerDatabase.h"
 #include "platform/freedesktop/FreedesktopInstallLayout.h"
 #include "platform/freedesktop/FreedesktopSystemEvents.h"
@@ -14,6 +15,11 @@
 std::unique_ptr<HandlerDatabase> PlatformBackend::createHandlerDatabase()
 {
     return std::make_unique<FreedesktopHandlerDatabase>();
+}
+
+std::unique_ptr<HandlerChangeWatcher> PlatformBackend::createHandlerChangeWatcher()
+{
+    return std::make_unique<FreedesktopHandlerChangeWatcher>();
 }
 
 std::unique_ptr<SingleInstance> PlatformBackend::createSingleInstance(const QString &appId)

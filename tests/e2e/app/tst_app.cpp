@@ -219,6 +219,49 @@ private Q_SLOTS:
         QCOMPARE(current.value(u"bundleIdentifier").toString(), QString("!elsewhere"));
     }
 
+    void aTakeoverIsSeenAtOnceWithATenMinuteInterval_data()
+    {
+        QTest::addColumn<QByteArray>("desktop");
+        QTest::newRow("mimeapps.list") << QByteArray();
+        QTest::newRow("kdeglobals") << QByteArray("KDE");
+    }
+
+    // Only the watched files can tell the program of the takeover before its next tick.
+    void aTakeoverIsSeenAtOnceWithATenMinuteInterval()
+    {
+        QFETCH(QByteArray, desktop);
+        QVERIFY(
+            run(QStringLiteral("xdg-mime"), {"default", "firefox-esr.desktop",
+                                             "x-scheme-handler/https", "x-scheme-handler/http"}));
+        m_tree->write(QStringLiteral("config/kdeglobals"),
+                      "[General]\nBrowserApplication=firefox-esr.desktop\n");
+        m_tree->write(settingsPath(), "[General]\nhasLaunchedBefore=true\nmonitoringEnabled=true\n"
+                                      "checkInterval=10min\n"
+                                          + firefoxTarget);
+        QProcess program;
+        QProcessEnvironment env = QProcessEnvironment::systemEnvironment();
+        env.insert(QStringLiteral("QT_QPA_PLATFORM"), QStringLiteral("offscreen"));
+        env.insert(QStringLiteral("XDG_CURRENT_DESKTOP"), QString::fromUtf8(desktop));
+        program.setProcessEnvironment(env);
+        program.start(QStringLiteral(VANDOREL_BINARY));
+        QByteArray out;
+        QTRY_VERIFY_WITH_TIMEOUT(
+            (out += program.readAllStandardOutput(), out.contains("🚀 App launched")), 20000);
+        if (desktop.isEmpty())
+            QVERIFY(run(QStringLiteral("xdg-mime"),
+                        {"default", "chromium.desktop", "x-scheme-handler/https",
+                         "x-scheme-handler/http"}));
+        else
+            m_tree->write(QStringLiteral("config/kdeglobals"),
+                          "[General]\nBrowserApplication=chromium.desktop\n");
+        QTRY_VERIFY_WITH_TIMEOUT(
+            (out += program.readAllStandardOutput(),
+             out.contains("📝 Log: Browser changed from Firefox ESR to Chromium Web Browser")),
+            10000);
+        program.kill();
+        program.waitForFinished(5000);
+    }
+
     void installedListsAreWhatTheNameRulesGiveOnWhatGioSees()
     {
         // A known identifier, whatever its name; a registered handler whose name the rules
