@@ -1,10 +1,10 @@
 #include "platform/freedesktop/FreedesktopHandlerChangeWatcher.h"
 
+#include "ProgramRun.h"
 #include "XdgTree.h"
 
 #include <QDir>
 #include <QFile>
-#include <QProcess>
 #include <QStandardPaths>
 #include <QTest>
 
@@ -21,14 +21,6 @@ class HandlerChangeWatcherTest : public QObject {
     std::unique_ptr<XdgTree> m_tree;
     std::unique_ptr<FreedesktopHandlerChangeWatcher> m_watcher;
     int m_touches = 0;
-
-    static bool run(const QString &program, const QStringList &arguments)
-    {
-        QProcess process;
-        process.start(program, arguments);
-        return process.waitForFinished(60000) && process.exitStatus() == QProcess::NormalExit
-               && process.exitCode() == 0;
-    }
 
     void watch(const QStringList &schemes, const QStringList &identifiers)
     {
@@ -68,7 +60,7 @@ class HandlerChangeWatcherTest : public QObject {
 private Q_SLOTS:
     void initTestCase()
     {
-        for (const char *tool : {"xdg-mime", "gio", "xdg-settings"})
+        for (const char *tool : {"xdg-mime", "xdg-settings"})
             QVERIFY2(!QStandardPaths::findExecutable(tool).isEmpty(),
                      "scripts/install-deps.sh installs the freedesktop tools");
     }
@@ -81,7 +73,8 @@ private Q_SLOTS:
         m_tree->entry("share1/applications", "chromium.desktop", web);
         m_tree->entry("share2/applications", "epiphany.desktop", web);
         m_tree->updateCaches();
-        QVERIFY(run("xdg-mime", {"default", "firefox.desktop", "x-scheme-handler/https"}));
+        QVERIFY(runProgram("xdg-mime", {"default", "firefox.desktop", "x-scheme-handler/https"})
+                    .succeeded());
     }
     void cleanup()
     {
@@ -89,23 +82,14 @@ private Q_SLOTS:
         m_tree.reset();
     }
 
+    // What the tools do in place is seen by the guard's own tests; here, what a watch on
+    // the file alone would miss.
     void everyWayOfTakingTheDefaultOverIsSeen()
     {
         watch(web, browsers);
-        QVERIFY(changes([] {
-            QVERIFY(run("xdg-mime", {"default", "chromium.desktop", "x-scheme-handler/https"}));
-        }));
-        QVERIFY(changes([] {
-            QVERIFY(run("gio", {"mime", "x-scheme-handler/https", "epiphany.desktop"}));
-        }));
         QVERIFY(changes([this] {
             replace("config/mimeapps.list",
                     "[Default Applications]\nx-scheme-handler/https=chromium.desktop\n");
-        }));
-        QVERIFY(changes([this] { // edited in place
-            QFile list(m_tree->path("config/mimeapps.list"));
-            QVERIFY(list.open(QIODevice::Append));
-            list.write("x-scheme-handler/http=chromium.desktop\n");
         }));
         // A list where none was: in the system's config directory, and in a user config
         // directory made after watching began.
@@ -147,7 +131,8 @@ private Q_SLOTS:
         qputenv("XDG_CURRENT_DESKTOP", "XFCE");
         watch(web, browsers);
         QVERIFY(changes([] {
-            QVERIFY(run("xdg-settings", {"set", "default-web-browser", "chromium.desktop"}));
+            QVERIFY(runProgram("xdg-settings", {"set", "default-web-browser", "chromium.desktop"})
+                        .succeeded());
         }));
         // xdg-settings made a helper of the entry under the data home: its program changed.
         QVERIFY(changes([this] {

@@ -257,7 +257,7 @@ void HandlerGuard::setupSystemEventObservers()
 
 void HandlerGuard::handleSystemEvent(const QString &type)
 {
-    if (m_snoozeUntil && m_env.clock->now() < *m_snoozeUntil)
+    if (snoozeRuns())
         return;
     Console::line(m_profile.checkingAfterPrefix + type);
     check();
@@ -333,7 +333,7 @@ void HandlerGuard::runMissedTick()
 void HandlerGuard::timerFired()
 {
     if (m_snoozeUntil) {
-        if (m_env.clock->now() < *m_snoozeUntil)
+        if (snoozeRuns())
             return;
         m_snoozeUntil.reset();
         setSnoozed(false);
@@ -356,16 +356,22 @@ void HandlerGuard::followDefaultFiles()
 }
 
 // A changed file runs the tick's check at once, under the tick's conditions, and the
-// interval starts again. One that comes while an alert is up or while our own change is
-// being made is dropped: the alert is already about it, or the change made it.
+// interval starts again. One that comes while snoozed, while an alert is up or while our
+// own change is being made is dropped: the user chose to keep it, the alert is already
+// about it, or the change made it.
 void HandlerGuard::defaultFilesChanged()
 {
-    if (!m_monitoringTimer || !m_monitoringTimer->isActive() || m_isChanging)
+    if (!m_monitoringTimer || !m_monitoringTimer->isActive() || m_isChanging || snoozeRuns())
         return;
     if (m_env.alerts && m_env.alerts->isPresenting())
         return;
     m_monitoringTimer->start(m_monitoringTimer->interval(), true);
     timerFired();
+}
+
+bool HandlerGuard::snoozeRuns() const
+{
+    return m_snoozeUntil && m_env.clock->now() < *m_snoozeUntil;
 }
 
 void HandlerGuard::check()

@@ -97,6 +97,7 @@ private:
     void timerFired();
     void defaultFilesChanged();
     void followDefaultFiles();
+    bool snoozeRuns() const;
     void alertsPresentingChanged(bool presenting);
     void runMissedTick();
 

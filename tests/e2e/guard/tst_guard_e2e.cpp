@@ -2,7 +2,9 @@
 #include "ProgramRun.h"
 #include "XdgTree.h"
 #include "core/guard/BrowserManager.h"
+#include "core/guard/DefaultFileMonitor.h"
 #include "core/guard/EmailClientManager.h"
+#include "platform/freedesktop/FreedesktopHandlerChangeWatcher.h"
 #include "platform/freedesktop/FreedesktopHandlerDatabase.h"
 
 #include <QDir>
@@ -13,7 +15,7 @@
 
 // The guards against the real freedesktop handler database: another program takes a role
 // over with xdg-mime, the next check finds it, and after the change back gio reads the
-// target again.
+// target again. With the files watched, a takeover is found without the tick.
 class GuardEndToEndTest : public QObject {
     Q_OBJECT
 
@@ -171,6 +173,41 @@ private Q_SLOTS:
                      .entryList({QStringLiteral("mimeapps.list.unreadable-*")})
                      .size(),
                  1);
+    }
+    void aTakeoverIsFoundWithoutTheTick_data()
+    {
+        QTest::addColumn<QString>("tool");
+        for (const char *tool : {"xdg-mime", "gio", "hand edit"})
+            QTest::newRow(tool) << QString(tool);
+    }
+
+    // The interval is ten minutes and its timer never fires here: only the watched files
+    // can start the check.
+    void aTakeoverIsFoundWithoutTheTick()
+    {
+        QFETCH(QString, tool);
+        Rig rig;
+        rig.env.changeWatchers = [] { return std::make_unique<FreedesktopHandlerChangeWatcher>(); };
+        QVERIFY(xdgMimeDefault("firefox", {"https", "http"}));
+        BrowserManager browser(rig.env);
+        browser.setTarget(browser.currentDefault());
+
+        ConsoleCapture console;
+        if (tool == u"xdg-mime")
+            QVERIFY(xdgMimeDefault("chromium", {"https", "http"}));
+        else if (tool == u"gio")
+            QVERIFY(runProgram("gio", {"mime", "x-scheme-handler/https", "chromium.desktop"})
+                        .succeeded());
+        else
+            m_tree->write("config/mimeapps.list",
+                          m_tree->read("config/mimeapps.list")
+                              .replace("=firefox.desktop", "=chromium.desktop"));
+        QVERIFY(QTest::qWaitFor(
+            [&] { return rig.timers.fire(DefaultFileMonitor::settleDelay) > 0; }, 10000));
+        QCOMPARE(console.lines(), QStringList{"📝 Log: Browser changed from Firefox to Chromium"});
+        QCOMPARE(browser.changeCount(), 1);
+        GuardWorld::settle();
+        QCOMPARE(rig.alerts.shown().size(), 1);
     }
 };
 
