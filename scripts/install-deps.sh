@@ -7,7 +7,7 @@ packages=(
   cmake ninja-build g++ pkg-config git clang-format
   qt6-base-dev qt6-base-dev-tools qt6-tools-dev qt6-tools-dev-tools qt6-l10n-tools qt6-svg-dev
   libicu-dev bootstrap-icons
-  xvfb xauth x11-utils trayer xdotool dbus dbus-x11 xdg-utils libglib2.0-bin desktop-file-utils
+  xvfb xauth x11-utils trayer xdotool dbus dbus-x11 xdg-utils libglib2.0-bin libglib2.0-dev desktop-file-utils
   imagemagick fonts-dejavu-core fonts-noto-color-emoji fonts-noto-cjk
   dpkg-dev lintian appstream
   at-spi2-core python3-pyatspi
