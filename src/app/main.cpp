@@ -1,14 +1,11 @@
 #include "app/CommandLine.h"
-#include "app/VandorelApp.h"
 #include "core/guard/StatusReport.h"
 #include "core/settings/SettingsStore.h"
 #include "core/support/AppInfo.h"
 #include "foundation/Console.h"
 #include "platform/PlatformBackend.h"
+#include "platform/ProgramModule.h"
 
-#include "BuildConfig.h"
-
-#include <QApplication>
 #include <QCoreApplication>
 
 #include <cstdio>
@@ -69,18 +66,11 @@ int main(int argc, char **argv)
     if (commandLine.mode() != CommandLine::Mode::Run)
         return answer(argc, argv, commandLine);
 
-    QApplication application(argc, argv);
-    QApplication::setApplicationName(QStringLiteral("Vandorel"));
-    QApplication::setDesktopFileName(QString::fromUtf8(BuildConfig::appId));
-    QApplication::setQuitOnLastWindowClosed(false);
-    // Logout, Ctrl+C and a closed terminal end the program as a quit does.
-    const auto quitRequests = PlatformBackend::createQuitRequests();
-    QObject::connect(quitRequests.get(), &QuitRequests::quitRequested, &application,
-                     &QCoreApplication::quit);
-
-    VandorelApp::Options options;
-    options.launchedAtLogin = commandLine.launchedAtLogin();
-    options.url = commandLine.url();
-    VandorelApp app(options);
-    return QApplication::exec();
+    QString error;
+    const ProgramModule::Run run = ProgramModule::load(&error);
+    if (!run) {
+        write(stderr, (u"Vandorel cannot start: " + error + u'\n').toUtf8());
+        return 1;
+    }
+    return run(argc, argv, commandLine.launchedAtLogin(), commandLine.url().toUtf8().constData());
 }

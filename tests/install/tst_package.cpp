@@ -75,6 +75,7 @@ private Q_SLOTS:
         files.sort();
         const QString id = QString::fromUtf8(BuildConfig::appId);
         QStringList expected{"./usr/bin/vandorel",
+                             "./usr/lib/vandorel/vandorel-program.so",
                              "./usr/share/applications/" + id + ".desktop",
                              "./usr/share/doc/vandorel/changelog.gz",
                              "./usr/share/doc/vandorel/copyright",
@@ -100,11 +101,13 @@ private Q_SLOTS:
     {
         QTemporaryDir unpacked;
         QCOMPARE(run(QStringLiteral("dpkg-deb"), {"-x", m_deb, unpacked.path()}).exitCode, 0);
-        const QString sections =
-            run(QStringLiteral("readelf"), {"-S", "-W", unpacked.path() + "/usr/bin/vandorel"}).out;
-        QVERIFY(sections.contains(u" .text "));
-        QVERIFY(!sections.contains(u" .symtab "));
-        QVERIFY(!sections.contains(u" .debug_"));
+        for (const char *file : {"/usr/bin/vandorel", "/usr/lib/vandorel/vandorel-program.so"}) {
+            const QString sections =
+                run(QStringLiteral("readelf"), {"-S", "-W", unpacked.path() + file}).out;
+            QVERIFY2(sections.contains(u" .text "), file);
+            QVERIFY2(!sections.contains(u" .symtab "), file);
+            QVERIFY2(!sections.contains(u" .debug_"), file);
+        }
     }
 
     // Lintian's errors fail the test; its warnings are listed in the output.

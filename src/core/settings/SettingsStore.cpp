@@ -242,3 +242,7 @@ void SettingsStore::set(const DateKey &key, const QDateTime &value)
 {
     setDate(key.key(), value);
 }
+
+// The meta-object is built into this file rather than with the other classes', so that the
+// status command links the store without the rest of the core.
+#include "moc_SettingsStore.cpp"

@@ -4,18 +4,12 @@
 #include "platform/freedesktop/DBusUrlHandOver.h"
 #include "platform/freedesktop/FreedesktopDeviceFacts.h"
 #include "platform/freedesktop/FreedesktopHandlerChangeWatcher.h"
-#include "platform/freedesktop/FreedesktopHandlerDatabase.h"
 #include "platform/freedesktop/FreedesktopInstallLayout.h"
 #include "platform/freedesktop/FreedesktopSystemEvents.h"
 #include "platform/freedesktop/LockFileSingleInstance.h"
 #include "platform/freedesktop/PosixQuitRequests.h"
 
 #include <QCoreApplication>
-
-std::unique_ptr<HandlerDatabase> PlatformBackend::createHandlerDatabase()
-{
-    return std::make_unique<FreedesktopHandlerDatabase>();
-}
 
 std::unique_ptr<HandlerChangeWatcher> PlatformBackend::createHandlerChangeWatcher()
 {
