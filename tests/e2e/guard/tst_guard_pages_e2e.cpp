@@ -53,8 +53,8 @@ private Q_SLOTS:
             page = rig.emailPage();
         else
             page = rig.browserPage();
-        HandlerGuard &guard = mail ? static_cast<HandlerGuard &>(*rig.email)
-                                   : static_cast<HandlerGuard &>(*rig.browser);
+        HandlerGuard &guard = mail ? static_cast<HandlerGuard &>(rig.email)
+                                   : static_cast<HandlerGuard &>(rig.browser);
         for (const QString &scheme : schemes)
             QCOMPARE(defaultFor(scheme), before.toLower() + u".desktop");
 

@@ -16,9 +16,8 @@
 #include "ui/widgets/SegmentedControl.h"
 #include "ui/widgets/ToggleSwitch.h"
 
-#include "GuardWorld.h"
 #include "LoopbackHttp.h"
-#include "PageChecks.h"
+#include "ShellWorld.h"
 #include "UpdateFakes.h"
 #include "UrlCatcher.h"
 #include "XdgTree.h"
@@ -28,7 +27,6 @@
 #include <QComboBox>
 #include <QDesktopServices>
 #include <QDir>
-#include <QScrollArea>
 #include <QStyle>
 #include <QTemporaryDir>
 #include <QTest>
@@ -39,9 +37,9 @@ namespace {
 
 constexpr QSize pageSize(549, 550);
 
-// The page over both guards, a temporary XDG tree for the autostart entry, a loopback feed,
-// and a Homebrew install when asked for.
-struct Rig : GuardWorld {
+// The page over both guards, a temporary XDG tree for the real autostart entry, a loopback
+// feed, and a Homebrew install when asked for.
+struct Rig : ShellWorld {
     ConsoleCapture console;
     XdgTree tree;
     QTemporaryDir prefixes;
@@ -50,23 +48,20 @@ struct Rig : GuardWorld {
     RecordingSheet sheet;
     FreedesktopInstallLayout install{QStringLiteral("/usr/bin/vandorel"),
                                      {prefixes.path() + u"/usr/local"}};
-    std::unique_ptr<LanguageManager> language;
     std::unique_ptr<UpdateManager> updates;
-    std::unique_ptr<BrowserManager> browser;
-    std::unique_ptr<EmailClientManager> email;
-    AutostartLoginItem loginItem{QStringLiteral("io.kestrane.vandorel"),
+    AutostartLoginItem autostart{QStringLiteral("io.kestrane.vandorel"),
                                  QStringLiteral("/usr/bin/vandorel")};
     std::unique_ptr<GeneralSettingsView> view;
 
     explicit Rig(const QStringList &preferredLanguages = {}, bool brew = false)
+        : ShellWorld(preferredLanguages)
     {
-        language = std::make_unique<LanguageManager>(settings.store(), timers, preferredLanguages);
         if (brew)
             QDir().mkpath(prefixes.path() + u"/usr/local/Caskroom/vandorel");
         UpdateManager::Options options;
-        options.settings = &settings.store();
-        options.clock = &clock;
-        options.timers = &timers;
+        options.settings = env.settings;
+        options.clock = env.clock;
+        options.timers = env.timers;
         options.appcastURL = QUrl(server.baseUrl() + u"/appcast.xml");
         options.currentVersion = QStringLiteral("1.9.9");
         options.install = &install;
@@ -74,45 +69,25 @@ struct Rig : GuardWorld {
             return std::make_unique<RecordingController>(updaterCalls);
         };
         updates = std::make_unique<UpdateManager>(options);
-        browser = std::make_unique<BrowserManager>(environment());
-        email = std::make_unique<EmailClientManager>(environment());
+        env.updates = updates.get();
+        env.updateSheet = &sheet;
+        env.loginItem = &autostart;
     }
 
-    ViewEnvironment views()
-    {
-        ViewEnvironment views;
-        views.language = language.get();
-        views.settings = &settings.store();
-        views.timers = &timers;
-        views.prompter = &alerts;
-        views.log = &log;
-        views.updates = updates.get();
-        views.updateSheet = &sheet;
-        views.browserManager = browser.get();
-        views.emailClientManager = email.get();
-        views.telemetry = &telemetry;
-        views.loginItem = &loginItem;
-        return views;
-    }
     GeneralSettingsView &show()
     {
-        view = std::make_unique<GeneralSettingsView>(views());
+        view = std::make_unique<GeneralSettingsView>(env);
         view->resize(pageSize);
         view->show();
         static_cast<void>(QTest::qWaitForWindowExposed(view.get()));
         return *view;
     }
-    void switchLanguage(AppLanguage to)
-    {
-        language->setCurrentLanguage(to);
-        timers.fire(50ms);
-    }
-    QString text(const char *key) const { return language->localizedString(QLatin1String(key)); }
+    QString text(const char *key) const { return language.localizedString(QLatin1String(key)); }
     // The settings the page reported, as "setting=value".
     QStringList reportedSettings()
     {
         QStringList reported;
-        for (const QString &call : telemetry.take()) {
+        for (const QString &call : world.telemetry.take()) {
             if (call.startsWith(u"trackSettingsChanged("))
                 reported << call.mid(21).chopped(1).replace(u", "_qs, u"="_qs);
         }
@@ -146,10 +121,6 @@ bool applied(AppearanceMode mode)
 class GeneralSettingsViewTest : public QObject {
     Q_OBJECT
 private Q_SLOTS:
-    void initTestCase()
-    {
-        QVERIFY2(PageChecks::hasRealFont(), "no real font: screenshots would show boxes");
-    }
     void cleanup() { Appearance::apply(AppearanceMode::system); }
 
     // Everything goes back to its default, setting by setting, while the targets, counters,
@@ -157,14 +128,14 @@ private Q_SLOTS:
     void resetsSettingsAfterConfirmation()
     {
         Rig rig({QStringLiteral("de-AT")});
-        SettingsStore &store = rig.settings.store();
+        SettingsStore &store = rig.world.settings.store();
         // The targets are the defaults already, so no check finds a change to count.
-        rig.browser->setTargetDefaultBrowser(
+        rig.browser.setTargetDefaultBrowser(
             Browser(QStringLiteral("Firefox"), QStringLiteral("firefox-esr")));
-        rig.email->setTargetDefaultEmailClient(
+        rig.email.setTargetDefaultEmailClient(
             EmailClient(QStringLiteral("Thunderbird"), QStringLiteral("thunderbird")));
-        for (HandlerGuard *guard : {static_cast<HandlerGuard *>(rig.browser.get()),
-                                    static_cast<HandlerGuard *>(rig.email.get())}) {
+        for (HandlerGuard *guard :
+             {static_cast<HandlerGuard *>(&rig.browser), static_cast<HandlerGuard *>(&rig.email)}) {
             guard->setMonitoringEnabled(false);
             guard->setCheckInterval(CheckInterval::daily);
             guard->setSnoozeDuration(SnoozeDuration::today);
@@ -174,7 +145,7 @@ private Q_SLOTS:
             guard->setChangeCount(7);
             guard->snoozeMonitoring();
         }
-        rig.log.logBrowserChange(QStringLiteral("Firefox"), QStringLiteral("Chromium"));
+        rig.world.log.logBrowserChange(QStringLiteral("Firefox"), QStringLiteral("Chromium"));
         store.setDouble(SettingsTable::updateSnoozeUntil.key(), 1e10);
         store.setString(SettingsTable::updateSnoozeVersion.key(), QStringLiteral("2.0"));
         store.setBool(SettingsTable::showColoredMenuBarIcon.key(), true);
@@ -183,25 +154,25 @@ private Q_SLOTS:
         store.setString(SettingsTable::updateCheckInterval.key(), QStringLiteral("weekly"));
         rig.switchLanguage(AppLanguage::french);
         GeneralSettingsView &view = rig.show();
-        rig.telemetry.take();
+        rig.world.telemetry.take();
 
         // Cancelled: nothing changes.
-        rig.alerts.answerNext(1);
+        rig.world.alerts.answerNext(1);
         click(view.resetButton(GeneralSettingsView::Reset::settings));
         settle();
-        const ModalPrompt &asked = rig.alerts.last();
+        const ModalPrompt &asked = rig.world.alerts.last();
         QCOMPARE(asked.title, rig.text("general_reset_settings_confirm_title"));
         QCOMPARE(asked.text, rig.text("general_reset_settings_confirm_message"));
         QCOMPARE(asked.buttons, (QStringList{rig.text("general_reset_settings_confirm_button"),
                                              rig.text("general_cancel")}));
-        QVERIFY(!rig.browser->monitoringEnabled());
+        QVERIFY(!rig.browser.monitoringEnabled());
         QVERIFY(rig.reportedSettings().isEmpty());
 
-        rig.alerts.answerNext(0);
+        rig.world.alerts.answerNext(0);
         click(view.resetButton(GeneralSettingsView::Reset::settings));
         settle();
-        for (HandlerGuard *guard : {static_cast<HandlerGuard *>(rig.browser.get()),
-                                    static_cast<HandlerGuard *>(rig.email.get())}) {
+        for (HandlerGuard *guard :
+             {static_cast<HandlerGuard *>(&rig.browser), static_cast<HandlerGuard *>(&rig.email)}) {
             QVERIFY(guard->monitoringEnabled());
             QCOMPARE(guard->checkInterval(), CheckInterval::tenMinutes);
             QCOMPARE(guard->snoozeDuration(), SnoozeDuration::oneHour);
@@ -209,11 +180,11 @@ private Q_SLOTS:
             QVERIFY(!guard->isSnoozed());
             QCOMPARE(guard->changeCount(), 7);
         }
-        QCOMPARE(rig.browser->targetDefaultBrowser()->bundleIdentifier,
+        QCOMPARE(rig.browser.targetDefaultBrowser()->bundleIdentifier,
                  QStringLiteral("firefox-esr"));
-        QCOMPARE(rig.email->targetDefaultEmailClient()->bundleIdentifier,
+        QCOMPARE(rig.email.targetDefaultEmailClient()->bundleIdentifier,
                  QStringLiteral("thunderbird"));
-        QCOMPARE(rig.log.getAllLogs().size(), 1);
+        QCOMPARE(rig.world.log.getAllLogs().size(), 1);
         QCOMPARE(store.stringValue(SettingsTable::updateSnoozeVersion.key()),
                  QStringLiteral("2.0"));
         QVERIFY(!store.boolValue(SettingsTable::showColoredMenuBarIcon.key()));
@@ -221,8 +192,8 @@ private Q_SLOTS:
         QVERIFY(store.boolValue(SettingsTable::checkForUpdatesAtStartup.key()));
         QCOMPARE(store.stringValue(SettingsTable::updateCheckInterval.key()),
                  QStringLiteral("daily"));
-        QVERIFY(rig.loginItem.isEnabled());
-        QCOMPARE(rig.language->currentLanguage(), AppLanguage::german);
+        QVERIFY(rig.autostart.isEnabled());
+        QCOMPARE(rig.language.currentLanguage(), AppLanguage::german);
         QVERIFY(rig.console.contains(QStringLiteral("✅ All settings reset to default")));
 
         // Each changed setting reports itself besides the reset.
@@ -254,38 +225,39 @@ private Q_SLOTS:
         Rig rig(preferred);
         rig.switchLanguage(AppLanguage::japanese);
         rig.show().resetAllSettings();
-        QCOMPARE(int(AppLanguage::Value(rig.language->currentLanguage())), language);
+        QCOMPARE(int(AppLanguage::Value(rig.language.currentLanguage())), language);
     }
 
     void resetsCountersLogsAndTheReminder()
     {
         Rig rig;
-        SettingsStore &store = rig.settings.store();
-        rig.browser->setBrowserChangeCount(3);
-        rig.email->setChangeCount(4);
-        rig.log.logEmailChange(QStringLiteral("Thunderbird"), QStringLiteral("Evolution"));
+        SettingsStore &store = rig.world.settings.store();
+        rig.browser.setBrowserChangeCount(3);
+        rig.email.setChangeCount(4);
+        rig.world.log.logEmailChange(QStringLiteral("Thunderbird"), QStringLiteral("Evolution"));
         store.setDouble(SettingsTable::updateSnoozeUntil.key(), 1e10);
         store.setString(SettingsTable::updateSnoozeVersion.key(), QStringLiteral("2.0"));
         GeneralSettingsView &view = rig.show();
-        rig.telemetry.take();
+        rig.world.telemetry.take();
 
-        rig.alerts.answerNext(1);
-        rig.alerts.answerNext(1);
+        rig.world.alerts.answerNext(1);
+        rig.world.alerts.answerNext(1);
         click(view.resetButton(GeneralSettingsView::Reset::counters));
         click(view.resetButton(GeneralSettingsView::Reset::logs));
         settle();
-        QCOMPARE(rig.alerts.shown().size(), 2);
-        QCOMPARE(rig.alerts.shown().at(1).title, rig.text("general_delete_logs_confirm_title"));
-        QCOMPARE(rig.browser->changeCount() + rig.email->changeCount(), 7);
-        QCOMPARE(rig.log.getAllLogs().size(), 1);
+        QCOMPARE(rig.world.alerts.shown().size(), 2);
+        QCOMPARE(rig.world.alerts.shown().at(1).title,
+                 rig.text("general_delete_logs_confirm_title"));
+        QCOMPARE(rig.browser.changeCount() + rig.email.changeCount(), 7);
+        QCOMPARE(rig.world.log.getAllLogs().size(), 1);
 
-        rig.alerts.answerNext(0);
-        rig.alerts.answerNext(0);
+        rig.world.alerts.answerNext(0);
+        rig.world.alerts.answerNext(0);
         click(view.resetButton(GeneralSettingsView::Reset::counters));
         click(view.resetButton(GeneralSettingsView::Reset::logs));
         settle();
-        QCOMPARE(rig.browser->changeCount() + rig.email->changeCount(), 0);
-        QVERIFY(rig.log.getAllLogs().isEmpty());
+        QCOMPARE(rig.browser.changeCount() + rig.email.changeCount(), 0);
+        QVERIFY(rig.world.log.getAllLogs().isEmpty());
         QVERIFY(rig.console.contains(QStringLiteral("✅ All counters reset")));
         QVERIFY(rig.console.contains(QStringLiteral("✅ All logs deleted")));
         QCOMPARE(store.stringValue(SettingsTable::updateSnoozeVersion.key()),
@@ -294,7 +266,7 @@ private Q_SLOTS:
         // The reminder snooze goes at once, without a question.
         click(view.resetButton(GeneralSettingsView::Reset::updateReminderSnooze));
         QVERIFY(!store.contains(SettingsTable::updateSnoozeVersion.key()));
-        QCOMPARE(rig.alerts.shown().size(), 4);
+        QCOMPARE(rig.world.alerts.shown().size(), 4);
         QCOMPARE(rig.reportedSettings(), (QStringList{"reset_counters=true", "delete_logs=true",
                                                       "reset_update_reminder_snooze=true"}));
     }
@@ -304,26 +276,27 @@ private Q_SLOTS:
     void appliesTheAppearanceFromThisPageAtTheNextTurn()
     {
         Rig rig;
-        rig.settings.store().setString(SettingsTable::appearanceMode.key(), QStringLiteral("dark"));
-        auto hidden = std::make_unique<GeneralSettingsView>(rig.views());
+        rig.world.settings.store().setString(SettingsTable::appearanceMode.key(),
+                                             QStringLiteral("dark"));
+        auto hidden = std::make_unique<GeneralSettingsView>(rig.env);
         settle();
         QVERIFY(!applied(AppearanceMode::dark));
         hidden.reset();
         GeneralSettingsView &view = rig.show();
         QTRY_VERIFY(applied(AppearanceMode::dark));
-        QVERIFY(rig.telemetry.take().contains(u"trackScreenView(settings_general)"_qs));
+        QVERIFY(rig.world.telemetry.take().contains(u"trackScreenView(settings_general)"_qs));
 
         click(view.appearancePicker()->segment(int(AppearanceMode::light)));
         QVERIFY(applied(AppearanceMode::dark));
         QCoreApplication::sendPostedEvents();
         QVERIFY(applied(AppearanceMode::light));
-        QCOMPARE(rig.settings.store().stringValue(SettingsTable::appearanceMode.key()),
+        QCOMPARE(rig.world.settings.store().stringValue(SettingsTable::appearanceMode.key()),
                  QStringLiteral("light"));
         QCOMPARE(rig.reportedSettings(), QStringList{"appearance=light"});
 
         // An unknown stored look shows as system and is not applied.
-        rig.settings.store().setString(SettingsTable::appearanceMode.key(),
-                                       QStringLiteral("sepia"));
+        rig.world.settings.store().setString(SettingsTable::appearanceMode.key(),
+                                             QStringLiteral("sepia"));
         view.hide();
         view.show();
         settle();
@@ -336,13 +309,13 @@ private Q_SLOTS:
         GeneralSettingsView &view = rig.show();
         ToggleSwitch *toggle = view.launchAtLoginSwitch();
         QVERIFY(!toggle->isChecked());
-        rig.telemetry.take();
+        rig.world.telemetry.take();
         click(toggle);
-        QVERIFY(rig.loginItem.isEnabled());
+        QVERIFY(rig.autostart.isEnabled());
         QCOMPARE(rig.tree.read(QStringLiteral("config/autostart/io.kestrane.vandorel.desktop")),
-                 rig.loginItem.entryContent());
+                 rig.autostart.entryContent());
         click(toggle);
-        QVERIFY(!QFile::exists(rig.loginItem.entryPath()));
+        QVERIFY(!QFile::exists(rig.autostart.entryPath()));
         QCOMPARE(rig.reportedSettings(),
                  (QStringList{"launch_at_login=true", "launch_at_login=false"}));
 
@@ -353,7 +326,7 @@ private Q_SLOTS:
         view.show();
         QVERIFY(toggle->isChecked());
         QCOMPARE(rig.tree.read(QStringLiteral("config/autostart/io.kestrane.vandorel.desktop")),
-                 rig.loginItem.entryContent());
+                 rig.autostart.entryContent());
         QCOMPARE(rig.reportedSettings(), QStringList{"launch_at_login=true"});
 
         // A read-only folder: a line, the switch stays, the report goes out all the same.
@@ -365,9 +338,9 @@ private Q_SLOTS:
         QVERIFY(!toggle->isChecked());
         QVERIFY(rig.console.contains(u"Failed to disable launch at login: " + folder
                                      + u": Permission denied"));
-        QVERIFY(rig.loginItem.isEnabled());
+        QVERIFY(rig.autostart.isEnabled());
         QVERIFY(QFile::setPermissions(folder, writable));
-        QVERIFY(QFile::remove(rig.loginItem.entryPath()));
+        QVERIFY(QFile::remove(rig.autostart.entryPath()));
         QVERIFY(QFile::setPermissions(folder, readOnly));
         click(toggle);
         QVERIFY(toggle->isChecked());
@@ -387,8 +360,8 @@ private Q_SLOTS:
         QVERIFY(!view.checkForUpdatesButton()->isEnabled());
         QVERIFY(view.updateSpinner()->isVisible());
         QTRY_COMPARE(rig.updaterCalls, (QStringList{"startUpdater", "checkForUpdates"}));
-        QCOMPARE(rig.timers.activeWithInterval(2s).size(), 1);
-        QCOMPARE(rig.timers.fire(2s), 1);
+        QCOMPARE(rig.world.timers.activeWithInterval(2s).size(), 1);
+        QCOMPARE(rig.world.timers.fire(2s), 1);
         QVERIFY(!view.isCheckingForUpdates());
         QVERIFY(view.checkForUpdatesButton()->isEnabled());
         QVERIFY(!view.updateSpinner()->isVisible());
@@ -404,14 +377,14 @@ private Q_SLOTS:
         QTRY_COMPARE(rig.sheet.shown, QStringList{"2.0"});
         QCOMPARE(rig.sheet.brew, QList<bool>{true});
         QVERIFY(view.checkForUpdatesButton()->isEnabled());
-        QVERIFY(rig.timers.activeWithInterval(2s).isEmpty());
+        QVERIFY(rig.world.timers.activeWithInterval(2s).isEmpty());
 
         rig.server.serve({200, feed("1.0")});
         click(view.checkForUpdatesButton());
-        QTRY_VERIFY(rig.alerts.isPresenting());
-        QCOMPARE(rig.alerts.last().title, rig.text("update_no_updates_title"));
-        QCOMPARE(rig.alerts.last().buttons, QStringList{rig.text("general_ok")});
-        rig.alerts.answer(0);
+        QTRY_VERIFY(rig.world.alerts.isPresenting());
+        QCOMPARE(rig.world.alerts.last().title, rig.text("update_no_updates_title"));
+        QCOMPARE(rig.world.alerts.last().buttons, QStringList{rig.text("general_ok")});
+        rig.world.alerts.answer(0);
         QCOMPARE(rig.sheet.shown.size(), 1);
 
         // Leaving the page while a check runs: its answer shows nothing.
@@ -422,19 +395,19 @@ private Q_SLOTS:
         rig.server.release();
         QTRY_VERIFY(rig.console.contains(QStringLiteral("✅ No update available")));
         settle();
-        QCOMPARE(rig.alerts.shown().size(), 1);
+        QCOMPARE(rig.world.alerts.shown().size(), 1);
     }
 
     // The page writes the two settings; the scheduler hears of them through the store.
     void theSchedulerFollowsTheStore()
     {
         Rig rig;
-        UpdateScheduler scheduler(rig.settings.store(), rig.timers, [] {});
+        UpdateScheduler scheduler(rig.world.settings.store(), rig.world.timers, [] {});
         scheduler.configureUpdateScheduler();
-        QObject::connect(&rig.settings.store(), &SettingsStore::changed, &scheduler,
+        QObject::connect(&rig.world.settings.store(), &SettingsStore::changed, &scheduler,
                          &UpdateScheduler::userDefaultsDidChange);
         GeneralSettingsView &view = rig.show();
-        rig.telemetry.take();
+        rig.world.telemetry.take();
         choose(view.updateIntervalPicker(), int(UpdateCheckInterval::weekly));
         click(view.checkAtStartupSwitch());
         QCOMPARE(*scheduler.lastSchedulerConfig(), (UpdateScheduler::Config{false, "weekly"}));
@@ -442,9 +415,9 @@ private Q_SLOTS:
                  (QStringList{"update_check_interval=weekly", "check_updates_at_startup=false"}));
 
         choose(view.languagePicker(), int(AppLanguage::italian));
-        QCOMPARE(rig.language->currentLanguage(), AppLanguage::italian);
+        QCOMPARE(rig.language.currentLanguage(), AppLanguage::italian);
         click(view.coloredIconSwitch());
-        QVERIFY(rig.settings.store().boolValue(SettingsTable::showColoredMenuBarIcon.key()));
+        QVERIFY(rig.world.settings.store().boolValue(SettingsTable::showColoredMenuBarIcon.key()));
         QCOMPARE(rig.reportedSettings(),
                  (QStringList{"language=it", "colored_menu_bar_icon=true"}));
     }
@@ -479,36 +452,14 @@ private Q_SLOTS:
         QApplication::sendEvent(donation, &enter);
         QVERIFY(donation->isHovered());
         QCOMPARE(donation->targetScale(), BuyMeCoffeeButton::hoveredScale);
-        rig.telemetry.take();
+        rig.world.telemetry.take();
         click(donation);
         QCOMPARE(catcher.opened, QList<QUrl>{AppInfo::donationURL()});
-        QCOMPARE(rig.telemetry.take(),
+        QCOMPARE(rig.world.telemetry.take(),
                  QStringList{"trackEvent(support_link_clicked, source=buy_me_coffee_button)"});
         QEvent leave(QEvent::Leave);
         QApplication::sendEvent(donation, &leave);
         QCOMPARE(donation->targetScale(), 1.0);
-    }
-
-    // Every language fits without a horizontal scroll bar; English and the longest one are
-    // saved whole, in light and dark.
-    void fitsInEveryLanguage()
-    {
-        Rig rig;
-        GeneralSettingsView &view = rig.show();
-        QScrollArea *scroll = view.findChild<QScrollArea *>();
-        QWidget *content = scroll->widget();
-        PageChecks::forEveryLanguage(
-            *content, [&](AppLanguage language) { rig.switchLanguage(language); },
-            {"general_description", "general_feature_1", "general_feature_2", "general_feature_3",
-             "general_feature_4", "general_feature_5", "general_appearance", "general_language",
-             "general_colored_icon", "general_launch_at_login", "general_check_for_updates",
-             "general_update_check_interval", "general_check_at_startup", "general_reset_settings",
-             "general_reset_counters", "general_reset_update_reminder_snooze",
-             "general_delete_logs", "general_support_description", "general_buy_coffee"},
-            [&] { QVERIFY(content->minimumSizeHint().width() <= scroll->viewport()->width()); },
-            [&](const QString &suffix) {
-                QVERIFY(PageChecks::saveScreenshot(*content, u"general_" + suffix));
-            });
     }
 };
 

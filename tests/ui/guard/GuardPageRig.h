@@ -1,17 +1,8 @@
 #pragma once
 
-#include "FakeClock.h"
-#include "FakeTimerFactory.h"
-#include "RecordingTelemetry.h"
-#include "ScriptedPrompter.h"
-#include "TempSettings.h"
+#include "ShellWorld.h"
 #include "XdgTree.h"
-#include "core/changelog/LogManager.h"
-#include "core/guard/BrowserManager.h"
-#include "core/guard/EmailClientManager.h"
-#include "core/i18n/LanguageManager.h"
 #include "platform/freedesktop/FreedesktopHandlerDatabase.h"
-#include "ui/ViewEnvironment.h"
 #include "ui/guard/BrowserSettingsView.h"
 #include "ui/guard/EmailSettingsView.h"
 
@@ -20,25 +11,15 @@
 
 #include <memory>
 
-// Both guards over a temporary XDG tree with real desktop entries (Firefox and Chromium for
-// web links, Thunderbird and Mailspring for mail, Firefox and Thunderbird the defaults),
-// English texts, a clock and timers that the test moves, and prompts that the test answers.
-struct GuardPageRig {
+// Desktop entries in a temporary XDG tree (Firefox and Chromium for web links, Thunderbird
+// and Mailspring for mail, Firefox and Thunderbird the defaults), in place before the
+// guards read them.
+struct GuardPageTree {
     XdgTree tree; // first: from here on the environment points into it
-    TempSettings settings;
-    FakeClock clock;
-    FakeTimerFactory timers;
-    ScriptedPrompter prompter;
-    RecordingTelemetry telemetry;
-    FreedesktopHandlerDatabase handlers;
-    LogManager log{settings.store(), clock};
-    LanguageManager language{settings.store(), timers, {"en"}};
-    std::unique_ptr<BrowserManager> browser;
-    std::unique_ptr<EmailClientManager> email;
+    FreedesktopHandlerDatabase database;
 
-    explicit GuardPageRig(bool mailClients = true)
+    explicit GuardPageTree(bool mailClients)
     {
-        LanguageManager::setShared(&language);
         const QByteArray web = "x-scheme-handler/http;x-scheme-handler/https;";
         entry("firefox", "Firefox", web);
         entry("chromium", "Chromium", web);
@@ -51,43 +32,26 @@ struct GuardPageRig {
         }
         tree.write(QStringLiteral("config/mimeapps.list"), defaults);
         tree.updateCaches();
-        GuardEnvironment env;
-        env.settings = &settings.store();
-        env.handlers = &handlers;
-        env.clock = &clock;
-        env.timers = &timers;
-        env.log = &log;
-        env.telemetry = &telemetry;
-        env.texts = &language;
-        browser = std::make_unique<BrowserManager>(env);
-        email = std::make_unique<EmailClientManager>(env);
     }
-    ~GuardPageRig() { LanguageManager::setShared(nullptr); }
 
     // A launchable entry in the tree; call updateCaches() after adding one later.
     void entry(const QString &id, const QByteArray &name, const QByteArray &mimeTypes) const
     {
-        const QString program = tree.stub(id);
-        tree.write(u"share1/applications/" + id + u".desktop",
-                   "[Desktop Entry]\nType=Application\nName=" + name + "\nExec=" + program.toUtf8()
-                       + " %u\nMimeType=" + mimeTypes + "\n");
+        tree.entry(QStringLiteral("share1/applications"), id + u".desktop", mimeTypes, {}, name);
+    }
+};
+
+// Both guards and the views' environment over those entries, in English; clock and timers
+// move only when told, and prompts wait for the test's answer.
+struct GuardPageRig : GuardPageTree, ShellWorld {
+    explicit GuardPageRig(bool mailClients = true)
+        : GuardPageTree(mailClients), ShellWorld({QStringLiteral("en")}, &database)
+    {
     }
 
-    GuardSettingsView::Services services() { return {language, clock, timers, prompter}; }
-    // What the settings window hands its pages.
-    ViewEnvironment viewEnvironment()
+    GuardSettingsView::Services services()
     {
-        ViewEnvironment env;
-        env.language = &language;
-        env.settings = &settings.store();
-        env.timers = &timers;
-        env.clock = &clock;
-        env.prompter = &prompter;
-        env.telemetry = &telemetry;
-        env.log = &log;
-        env.browserManager = browser.get();
-        env.emailClientManager = email.get();
-        return env;
+        return {language, world.clock, world.timers, world.alerts};
     }
 
     template <typename Page>
@@ -100,18 +64,18 @@ struct GuardPageRig {
     }
     std::unique_ptr<BrowserSettingsView> browserPage()
     {
-        return shown(std::make_unique<BrowserSettingsView>(*browser, services()));
+        return shown(std::make_unique<BrowserSettingsView>(browser, services()));
     }
     std::unique_ptr<EmailSettingsView> emailPage()
     {
-        return shown(std::make_unique<EmailSettingsView>(*email, services()));
+        return shown(std::make_unique<EmailSettingsView>(email, services()));
     }
 
     // The poll of the guard's running change, if it polls (the pages' own timers may also
     // tick once a second).
     FakeTimer *pollTimer(const HandlerGuard &guard) const
     {
-        for (FakeTimer *timer : timers.activeWithInterval(std::chrono::seconds(1)))
+        for (FakeTimer *timer : world.timers.activeWithInterval(std::chrono::seconds(1)))
             for (const QObject *owner = timer->parent(); owner; owner = owner->parent())
                 if (owner == &guard)
                     return timer;

@@ -59,20 +59,20 @@ private Q_SLOTS:
         QFETCH(QString, state);
         GuardPageRig rig;
         rig.language.setCurrentLanguage(language);
-        rig.timers.fire(50ms);
-        HandlerGuard &guard = mail ? static_cast<HandlerGuard &>(*rig.email)
-                                   : static_cast<HandlerGuard &>(*rig.browser);
+        rig.world.timers.fire(50ms);
+        HandlerGuard &guard = mail ? static_cast<HandlerGuard &>(rig.email)
+                                   : static_cast<HandlerGuard &>(rig.browser);
         // The longest state of each box: a target, counters with a last change, a snooze.
         const HandlerRecord target =
             state == u"default" ? *guard.currentDefault() : guard.installed().first();
         guard.setTarget(target);
         guard.setChangeCount(3);
-        guard.setLastChange(rig.clock.now().addSecs(-2 * 3600));
+        guard.setLastChange(rig.world.clock.now().addSecs(-2 * 3600));
         guard.snoozeMonitoring();
         if (state == u"changing")
             guard.setDefault(target);
 
-        SettingsView view(rig.viewEnvironment());
+        SettingsView view(rig.env);
         view.setSelectedTab(QLatin1String(mail ? "email" : "browser"));
         view.show();
         QVERIFY(QTest::qWaitForWindowExposed(&view));

@@ -42,21 +42,21 @@ private Q_SLOTS:
         QVERIFY(!shows(page.get(), "bundleLine"));
 
         QVERIFY(choose(picker, "Firefox"));
-        QCOMPARE(rig.browser->targetDefaultBrowser()->bundleIdentifier, "firefox");
+        QCOMPARE(rig.browser.targetDefaultBrowser()->bundleIdentifier, "firefox");
         QVERIFY(control<QLabel>(page.get(), "bundleLine")->text().contains("firefox"));
         QCOMPARE(actionShown(page.get()), "alreadyDefault");
         // Already the default wins over a change that runs.
-        rig.browser->setDefaultBrowser(*rig.browser->targetDefaultBrowser());
+        rig.browser.setDefaultBrowser(*rig.browser.targetDefaultBrowser());
         QCOMPARE(actionShown(page.get()), "alreadyDefault");
 
         QVERIFY(choose(picker, "Chromium"));
         QCOMPARE(actionShown(page.get()), "changing");
         QVERIFY(page->findChild<BusySpinner *>()->isSpinning());
         // Stop while the change polls, once the system call has handed back.
-        QTRY_VERIFY(rig.pollTimer(*rig.browser));
+        QTRY_VERIFY(rig.pollTimer(rig.browser));
         QTest::mouseClick(control<QPushButton>(page.get(), "stopButton"), Qt::LeftButton);
-        QVERIFY(!rig.browser->isChangingBrowser());
-        QVERIFY(!rig.pollTimer(*rig.browser));
+        QVERIFY(!rig.browser.isChangingBrowser());
+        QVERIFY(!rig.pollTimer(rig.browser));
         QCOMPARE(actionShown(page.get()), "setNowButton");
     }
 
@@ -74,7 +74,7 @@ private Q_SLOTS:
         QVERIFY(!shows(page.get(), "selectToEnable"));
 
         QTest::mouseClick(monitoring, Qt::LeftButton);
-        QVERIFY(!rig.browser->monitoringEnabled());
+        QVERIFY(!rig.browser.monitoringEnabled());
         QVERIFY(!control(page.get(), "intervalPicker")->isEnabled());
         for (const char *name :
              {"checkOnLoginSwitch", "checkOnWakeSwitch", "checkOnUnlockSwitch"}) {
@@ -85,7 +85,7 @@ private Q_SLOTS:
 
         // Clearing the target takes the switch away again.
         QVERIFY(choose(control<QComboBox>(page.get(), "targetPicker"), rig.text("browser_none")));
-        QVERIFY(!rig.browser->targetDefaultBrowser());
+        QVERIFY(!rig.browser.targetDefaultBrowser());
         QVERIFY(!monitoring->isEnabled());
     }
 
@@ -103,18 +103,18 @@ private Q_SLOTS:
         QCOMPARE(entries, names);
         QVERIFY(
             choose(interval, CheckInterval(CheckInterval::sixtyMinutes).displayName(rig.language)));
-        QCOMPARE(rig.email->checkInterval(), CheckInterval::sixtyMinutes);
+        QCOMPARE(rig.email.checkInterval(), CheckInterval::sixtyMinutes);
 
-        rig.email->setSnoozeDuration(SnoozeDuration::fourHours);
+        rig.email.setSnoozeDuration(SnoozeDuration::fourHours);
         QCOMPARE(control<QComboBox>(page.get(), "snoozePicker")->currentText(),
                  SnoozeDuration(SnoozeDuration::fourHours).displayName(rig.language));
 
         auto *wake = control<ToggleSwitch>(page.get(), "checkOnWakeSwitch");
         wake->setFocus();
         QTest::keyClick(wake, Qt::Key_Space);
-        QVERIFY(!rig.email->checkOnWake());
-        QVERIFY(rig.email->checkOnLogin());
-        rig.email->setCheckOnWake(true);
+        QVERIFY(!rig.email.checkOnWake());
+        QVERIFY(rig.email.checkOnLogin());
+        rig.email.setCheckOnWake(true);
         QVERIFY(wake->isChecked());
         QCOMPARE(wake->accessibleName(), rig.text("email_check_on_wake"));
     }
@@ -122,8 +122,8 @@ private Q_SLOTS:
     void everyControlIsNamedForScreenReaders()
     {
         GuardPageRig rig;
-        rig.email->setTargetDefaultEmailClient(rig.email->installedEmailClients().first());
-        rig.email->snoozeMonitoring();
+        rig.email.setTargetDefaultEmailClient(rig.email.installedEmailClients().first());
+        rig.email.snoozeMonitoring();
         auto page = rig.emailPage();
         const QList<std::pair<const char *, QAccessible::Role>> controls{
             {"refreshButton", QAccessible::Button},
@@ -150,21 +150,21 @@ private Q_SLOTS:
     void showingThePageWritesNoSetting()
     {
         GuardPageRig rig;
-        rig.browser->setTargetDefaultBrowser(rig.browser->installedBrowsers().first());
+        rig.browser.setTargetDefaultBrowser(rig.browser.installedBrowsers().first());
         rig.language.setCurrentLanguage(AppLanguage::german);
-        rig.timers.fire(50ms);
-        const QByteArray before = rig.settings.fileBytes();
+        rig.world.timers.fire(50ms);
+        const QByteArray before = rig.world.settings.fileBytes();
         auto page = rig.browserPage();
         // A language change fills the pickers again.
         rig.language.setCurrentLanguage(AppLanguage::german);
-        rig.timers.fire(50ms);
-        QCOMPARE(rig.settings.fileBytes(), before);
+        rig.world.timers.fire(50ms);
+        QCOMPARE(rig.world.settings.fileBytes(), before);
     }
 
     void aTargetOutsideTheListShowsNoEntryButItsDetails()
     {
         GuardPageRig rig;
-        rig.browser->setTargetDefaultBrowser(
+        rig.browser.setTargetDefaultBrowser(
             Browser(QStringLiteral("Gone Browser"), QStringLiteral("gone")));
         auto page = rig.browserPage();
         auto *picker = control<QComboBox>(page.get(), "targetPicker");
@@ -183,14 +183,14 @@ private Q_SLOTS:
         rig.tree.updateCaches();
         QTest::mouseClick(control<QPushButton>(page.get(), "refreshButton"), Qt::LeftButton);
         ScriptedPrompter::settle();
-        QCOMPARE(rig.prompter.shown().size(), 1);
-        QCOMPARE(rig.prompter.last().title, rig.text("browser_refresh_alert_title"));
-        QCOMPARE(rig.prompter.last().text,
+        QCOMPARE(rig.world.alerts.shown().size(), 1);
+        QCOMPARE(rig.world.alerts.last().title, rig.text("browser_refresh_alert_title"));
+        QCOMPARE(rig.world.alerts.last().text,
                  rig.language.localizedFormat("browser_refresh_alert_message %lld", {3}));
-        QVERIFY(rig.prompter.last().text.contains(u'3'));
-        QCOMPARE(rig.prompter.last().buttons, QStringList{rig.text("browser_ok")});
+        QVERIFY(rig.world.alerts.last().text.contains(u'3'));
+        QCOMPARE(rig.world.alerts.last().buttons, QStringList{rig.text("browser_ok")});
         QCOMPARE(control<QComboBox>(page.get(), "targetPicker")->count(), 4);
-        QVERIFY(rig.prompter.answer(0));
+        QVERIFY(rig.world.alerts.answer(0));
     }
 
     void statisticsShowTheLastChangeOnlyWhenThereIsOne()
@@ -200,9 +200,9 @@ private Q_SLOTS:
         QCOMPARE(control<QLabel>(page.get(), "changeCount")->text(), "0");
         QVERIFY(!shows(page.get(), "lastChangeRow"));
 
-        const QDateTime when = rig.clock.now().addSecs(-2 * 3600);
-        rig.email->setEmailChangeCount(12345);
-        rig.email->setLastEmailChange(when);
+        const QDateTime when = rig.world.clock.now().addSecs(-2 * 3600);
+        rig.email.setEmailChangeCount(12345);
+        rig.email.setLastEmailChange(when);
         QCOMPARE(control<QLabel>(page.get(), "changeCount")->text(), "12345");
         QVERIFY(shows(page.get(), "lastChangeRow"));
         QCOMPARE(control<RelativeTimeLabel>(page.get(), "lastChangeRelative")->text(),
@@ -216,10 +216,10 @@ private Q_SLOTS:
         GuardPageRig rig;
         auto page = rig.browserPage();
         QVERIFY(!shows(page.get(), "snoozedRow"));
-        rig.browser->snoozeMonitoring();
+        rig.browser.snoozeMonitoring();
         QVERIFY(shows(page.get(), "snoozedRow"));
         QTest::mouseClick(control<QPushButton>(page.get(), "resetSnoozeButton"), Qt::LeftButton);
-        QVERIFY(!rig.browser->isSnoozed());
+        QVERIFY(!rig.browser.isSnoozed());
         QVERIFY(!shows(page.get(), "snoozedRow"));
     }
 
@@ -238,14 +238,14 @@ private Q_SLOTS:
         auto browserPage = rig.browserPage();
         auto emailPage = rig.emailPage();
         QVERIFY(choose(control<QComboBox>(browserPage.get(), "targetPicker"), "Chromium"));
-        QVERIFY(!rig.email->targetDefaultEmailClient());
+        QVERIFY(!rig.email.targetDefaultEmailClient());
         QVERIFY(!emailPage->selectedEmailClient());
         QCOMPARE(control<QComboBox>(emailPage.get(), "targetPicker")->currentIndex(), 0);
 
         QVERIFY(choose(control<QComboBox>(emailPage.get(), "targetPicker"), "Mailspring"));
-        QCOMPARE(rig.browser->targetDefaultBrowser()->bundleIdentifier, "chromium");
+        QCOMPARE(rig.browser.targetDefaultBrowser()->bundleIdentifier, "chromium");
         QCOMPARE(browserPage->selectedBrowser()->bundleIdentifier, "chromium");
-        QCOMPARE(rig.email->targetDefaultEmailClient()->bundleIdentifier, "mailspring");
+        QCOMPARE(rig.email.targetDefaultEmailClient()->bundleIdentifier, "mailspring");
     }
 };
 

@@ -1,6 +1,5 @@
 #include "core/changelog/LogManager.h"
 #include "core/i18n/LanguageManager.h"
-#include "core/settings/SettingsTable.h"
 #include "ui/Appearance.h"
 #include "ui/log/ChangeLogEntryRow.h"
 #include "ui/log/LogView.h"
@@ -11,7 +10,6 @@
 #include "ConsoleCapture.h"
 #include "FakeClock.h"
 #include "FakeTimerFactory.h"
-#include "PageChecks.h"
 #include "ScriptedPrompter.h"
 #include "TempSettings.h"
 
@@ -97,10 +95,6 @@ void answerExport(LogView &view, const QString &path)
 class LogViewTest : public QObject {
     Q_OBJECT
 private Q_SLOTS:
-    void initTestCase()
-    {
-        QVERIFY2(PageChecks::hasRealFont(), "no real font: screenshots would show boxes");
-    }
 
     void filtersTheCopyAndShowsTheEmptyState()
     {
@@ -245,43 +239,6 @@ private Q_SLOTS:
         }
         for (QPushButton *button : {view.refreshButton(), view.exportButton(), view.clearButton()})
             QVERIFY(button->isEnabled());
-    }
-
-    // Every language fits the page without a horizontal scroll bar; English and the longest
-    // one are saved in light and dark, with records and empty.
-    void fitsInEveryLanguage()
-    {
-        Rig rig;
-        rig.log.logBrowserChange(QStringLiteral("Firefox ESR"), QStringLiteral("Chromium"));
-        rig.clock.advance(7200);
-        rig.log.logEmailChange(QStringLiteral("Thunderbird"),
-                               QStringLiteral("Evolution Mail and Calendar (Flatpak, user "
-                                              "installation, development snapshot)"));
-        rig.clock.advance(300);
-        const QByteArray records = *rig.settings.store().dataValue(SettingsTable::changeLog.key());
-        LogView &view = rig.show();
-        QScrollArea *list = view.findChild<QScrollArea *>();
-        PageChecks::forEveryLanguage(
-            view,
-            [&](AppLanguage language) {
-                rig.language.setCurrentLanguage(language);
-                rig.timers.fire(50ms);
-            },
-            {"log_filter_all", "log_filter_browser", "log_filter_email", "log_refresh",
-             "log_export", "log_clear", "log_empty_title", "log_empty_description"},
-            [&] {
-                QVERIFY(view.minimumSizeHint().width() <= pageSize.width());
-                QCOMPARE(view.size(), pageSize);
-                QVERIFY(list->widget()->minimumSizeHint().width() <= list->viewport()->width());
-            },
-            [&](const QString &suffix) {
-                QVERIFY(PageChecks::saveScreenshot(view, u"log_" + suffix));
-                rig.log.clearAllLogs();
-                view.refreshLogs();
-                QVERIFY(PageChecks::saveScreenshot(view, u"log_empty_" + suffix));
-                rig.settings.store().setData(SettingsTable::changeLog.key(), records);
-                view.refreshLogs();
-            });
     }
 };
 

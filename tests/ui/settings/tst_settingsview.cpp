@@ -11,6 +11,7 @@
 
 #include <QAccessible>
 #include <QPointer>
+#include <QScrollArea>
 #include <QTest>
 
 // The settings window's frame: its fixed size, the tab column, which page shows for which
@@ -49,6 +50,11 @@ class SettingsViewTest : public QObject {
     }
 
 private Q_SLOTS:
+    void initTestCase()
+    {
+        QVERIFY2(PageChecks::hasRealFont(), "no real font: screenshots would show boxes");
+    }
+
     void frameAndTabs()
     {
         Rig rig;
@@ -119,26 +125,29 @@ private Q_SLOTS:
                      qPrintable(view.tabButton(tab)->title()));
     }
 
-    // Every page in its frame, walked by the tabs as a user does, in two languages and both
-    // looks: nothing is cut, and only the general page reports that it was seen (the frame
-    // and the other pages report nothing).
+    // Every page in its frame, walked by the tabs as a user does, in every language and both
+    // looks: nothing is cut, no page scrolls sideways, and only the general page reports that
+    // it was seen (the frame and the other pages report nothing). English, German, Japanese
+    // and the language with the longest texts are saved, each page also whole.
     void everyPageInItsFrame_data()
     {
-        QTest::addColumn<QString>("code");
+        QTest::addColumn<AppLanguage>("language");
         QTest::addColumn<QString>("look");
-        for (const char *code : {"de", "ja"}) {
+        for (const AppLanguage language : AppLanguage::allCases())
             for (const char *look : {"light", "dark"})
-                QTest::addRow("%s %s", code, look)
-                    << QString::fromLatin1(code) << QString::fromLatin1(look);
-        }
+                QTest::addRow("%s %s", qPrintable(language.code()), look)
+                    << language << QString::fromLatin1(look);
     }
 
     void everyPageInItsFrame()
     {
-        QFETCH(QString, code);
+        QFETCH(AppLanguage, language);
         QFETCH(QString, look);
         ShellWorld shell;
-        shell.switchLanguage(*AppLanguage::fromRawValue(code));
+        shell.world.log.logBrowserChange("Firefox ESR", "Chromium");
+        shell.world.log.logEmailChange("Thunderbird", "Evolution Mail and Calendar (Flatpak, "
+                                                      "user installation, development snapshot)");
+        shell.switchLanguage(language);
         // The general page applies the stored look when it appears, as in the program.
         shell.env.settings->set(SettingsTable::appearanceMode, look);
         RecordingTelemetry &telemetry = shell.world.telemetry;
@@ -146,6 +155,12 @@ private Q_SLOTS:
         SettingsView view(shell.env);
         view.show();
         QVERIFY(QTest::qWaitForWindowExposed(&view));
+        const AppLanguage longest = PageChecks::longestLanguage(
+            {"general_description", "general_feature_1", "general_feature_2", "general_feature_3",
+             "general_feature_4", "general_feature_5", "general_reset_update_reminder_snooze",
+             "general_support_description", "log_empty_description", "feedback_description"});
+        const bool shoot = language == AppLanguage::english || language == AppLanguage::german
+                           || language == AppLanguage::japanese || language == longest;
         const QList<SettingsTab> walk{SettingsTab::browser, SettingsTab::email, SettingsTab::log,
                                       SettingsTab::feedback, SettingsTab::general};
         for (SettingsTab tab : walk) {
@@ -154,8 +169,16 @@ private Q_SLOTS:
             QCOMPARE(view.palette().color(QPalette::Window).lightness() < 128, look == "dark");
             const QStringList clipped = PageChecks::clippedTexts(view);
             QVERIFY2(clipped.isEmpty(), qPrintable(tab.rawValue() + u": " + clipped.join(u" | ")));
-            QVERIFY(PageChecks::saveScreenshot(view, u"settings-" + code + u'-' + look + u'-'
-                                                         + tab.rawValue()));
+            const QString name =
+                u"settings-" + language.code() + u'-' + look + u'-' + tab.rawValue();
+            for (QScrollArea *scroll : view.page()->findChildren<QScrollArea *>()) {
+                QVERIFY2(scroll->widget()->minimumSizeHint().width() <= scroll->viewport()->width(),
+                         qPrintable(name));
+                if (shoot)
+                    QVERIFY(PageChecks::saveScreenshot(*scroll->widget(), name + u"-full"));
+            }
+            if (shoot)
+                QVERIFY(PageChecks::saveScreenshot(view, name));
         }
         QStringList views = telemetry.calls();
         views.removeIf([](const QString &call) { return !call.startsWith(u"trackScreenView"); });

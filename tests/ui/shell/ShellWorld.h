@@ -18,7 +18,8 @@ struct ShellWorld {
     enum class Mode { protected_, mismatch, notProtected, notProtectedMismatch };
 
     GuardWorld world;
-    LanguageManager language{world.settings.store(), world.timers, {"en"}};
+    HandlerDatabase *handlers; // the world's fake one unless another is handed in
+    LanguageManager language;
     BrowserManager browser{guardEnvironment()};
     EmailClientManager email{guardEnvironment()};
     QStringList openedWindows;
@@ -31,7 +32,10 @@ struct ShellWorld {
     FakeLoginItem loginItem;
     ViewEnvironment env;
 
-    ShellWorld()
+    explicit ShellWorld(const QStringList &preferredLanguages = {QStringLiteral("en")},
+                        HandlerDatabase *handlers = nullptr)
+        : handlers(handlers ? handlers : &world.handlers),
+          language(world.settings.store(), world.timers, preferredLanguages)
     {
         LanguageManager::setShared(&language);
         env.language = &language;
@@ -54,6 +58,7 @@ struct ShellWorld {
     {
         GuardEnvironment environment = world.environment();
         environment.texts = &language;
+        environment.handlers = handlers;
         return environment;
     }
 

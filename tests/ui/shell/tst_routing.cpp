@@ -60,7 +60,6 @@ private Q_SLOTS:
         QCOMPARE(rig.view()->selectedTab(), QString("email"));
         QVERIFY(rig.settings->isVisible());
         QTRY_COMPARE(QApplication::activeWindow(), rig.settings.get());
-        QCOMPARE(rig.settings->size(), QSize(700, 550));
         QCOMPARE(qgetenv(WindowRouter::openTabVariable), QByteArray("email"));
         QCOMPARE(rig.shell.world.timers.activeWithInterval(500ms).size(), 1);
         rig.clearOpenTab();
@@ -114,17 +113,6 @@ private Q_SLOTS:
         WindowList::bringForward(rig.settings.get());
         QCOMPARE(rig.view()->selectedTab(), QString("general"));
         clearings.last()->fire();
-    }
-
-    void aVariableThatNamesNoTabShowsTheGeneralPageUnmarked()
-    {
-        Rig rig;
-        qputenv(WindowRouter::openTabVariable, "advanced");
-        WindowList::bringForward(rig.window(QStringLiteral("settings")));
-        QCOMPARE(rig.view()->selectedTab(), QString("advanced"));
-        for (SettingsTab tab : SettingsTab::allCases())
-            QVERIFY(!rig.view()->tabButton(tab)->isSelected());
-        qunsetenv(WindowRouter::openTabVariable);
     }
 
     void theTitleIsWrittenToTheActiveWindowATenthOfASecondLater()
