@@ -1,7 +1,7 @@
 #include "ui/feedback/FeedbackView.h"
 
 #include "core/i18n/LanguageManager.h"
-#include "core/telemetry/AptabaseManager.h"
+#include "core/telemetry/Telemetry.h"
 #include "platform/ModalPrompter.h"
 #include "ui/Colours.h"
 #include "ui/LocalizedText.h"
@@ -53,8 +53,9 @@ QIcon spinnerIcon(double angle, const QColor &colour, qreal ratio)
 } // namespace
 
 FeedbackView::FeedbackView(FeedbackForm::Options options, LanguageManager &language,
-                           ModalPrompter &prompter, QWidget *parent)
-    : QWidget(parent), m_language(language), m_prompter(prompter), m_form([&] {
+                           ModalPrompter &prompter, Telemetry &telemetry, QWidget *parent)
+    : QWidget(parent), m_language(language), m_prompter(prompter), m_telemetry(telemetry),
+      m_form([&] {
           options.language = &language;
           return options;
       }())
@@ -287,7 +288,7 @@ void FeedbackView::showEvent(QShowEvent *event)
 {
     QWidget::showEvent(event);
     if (!event->spontaneous())
-        AptabaseManager::trackScreenView(QString::fromLatin1(screenName));
+        m_telemetry.trackScreenView(QLatin1String(screenName));
 }
 
 void FeedbackView::changeEvent(QEvent *event)

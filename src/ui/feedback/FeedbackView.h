@@ -16,6 +16,7 @@ class MoodButton;
 class QLabel;
 class QPlainTextEdit;
 class QPushButton;
+class Telemetry;
 
 // The feedback page: a heading, a row of moods, a text box with its counter, the categories
 // and a send button, over a FeedbackForm that holds the state and sends it. Stands alone
@@ -28,7 +29,7 @@ public:
     static constexpr const char *screenName = "settings_feedback";
 
     FeedbackView(FeedbackForm::Options options, LanguageManager &language, ModalPrompter &prompter,
-                 QWidget *parent = nullptr);
+                 Telemetry &telemetry, QWidget *parent = nullptr);
 
     FeedbackForm &form() { return m_form; }
     bool canSend() const { return m_form.canSend(); }
@@ -62,6 +63,7 @@ private:
 
     LanguageManager &m_language;
     ModalPrompter &m_prompter;
+    Telemetry &m_telemetry;
     FeedbackForm m_form;
     std::optional<int> m_hoveredMoodIndex;
     bool m_alertUp = false;

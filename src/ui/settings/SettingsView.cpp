@@ -80,7 +80,7 @@ QWidget *SettingsView::makePage(SettingsTab tab, const ViewEnvironment &environm
                            *environment.timers, *environment.prompter);
     case SettingsTab::feedback:
         return new FeedbackView(FeedbackForm::defaultOptions(), *environment.language,
-                                *environment.prompter);
+                                *environment.prompter, *environment.telemetry);
     }
     return new QWidget;
 }

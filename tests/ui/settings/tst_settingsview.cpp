@@ -182,7 +182,9 @@ private Q_SLOTS:
         }
         QStringList views = telemetry.calls();
         views.removeIf([](const QString &call) { return !call.startsWith(u"trackScreenView"); });
-        QCOMPARE(views, QStringList(2, QStringLiteral("trackScreenView(settings_general)")));
+        QCOMPARE(views, QStringList({"trackScreenView(settings_general)",
+                                     "trackScreenView(settings_feedback)",
+                                     "trackScreenView(settings_general)"}));
         view.close();
         Appearance::apply(AppearanceMode::system);
     }
