@@ -53,8 +53,13 @@ bool HandlerDetector::isLikely(const HandlerRecord &record) const
 QStringList HandlerDetector::registeredHandlers() const
 {
     QStringList identifiers;
+    // Schemes mostly share their handlers; each is read once.
+    QSet<QString> locations;
     for (const QString &scheme : m_profile.registeredSchemes) {
         for (const QString &location : m_handlers.applicationsForScheme(scheme)) {
+            if (locations.contains(location))
+                continue;
+            locations.insert(location);
             const auto application = m_handlers.applicationAt(location);
             if (application && !application->identifier.isEmpty()
                 && !identifiers.contains(application->identifier))

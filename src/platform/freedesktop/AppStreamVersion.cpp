@@ -1,6 +1,7 @@
 #include "platform/freedesktop/AppStreamVersion.h"
 
 #include <QFile>
+#include <QFileInfo>
 #include <QXmlStreamReader>
 
 std::optional<QString> AppStreamVersion::find(const QString &identifier,
@@ -9,12 +10,19 @@ std::optional<QString> AppStreamVersion::find(const QString &identifier,
     if (identifier.isEmpty() || identifier.contains(u'/'))
         return std::nullopt;
     for (const QString &dir : dataDirs) {
-        for (const char *name : {"/metainfo/%1.metainfo.xml", "/metainfo/%1.appdata.xml",
-                                 "/metainfo/%1.desktop.metainfo.xml", "/appdata/%1.appdata.xml"}) {
-            const QString path = dir + QString::fromLatin1(name).arg(identifier);
-            if (QFile::exists(path))
-                return readFile(path);
+        // Most data directories have neither folder: one look each instead of one per name.
+        const QString metainfo = dir + QStringLiteral("/metainfo/");
+        if (QFileInfo(metainfo).isDir()) {
+            for (const char *name :
+                 {"%1.metainfo.xml", "%1.appdata.xml", "%1.desktop.metainfo.xml"}) {
+                const QString path = metainfo + QString::fromLatin1(name).arg(identifier);
+                if (QFile::exists(path))
+                    return readFile(path);
+            }
         }
+        const QString appdata = dir + QStringLiteral("/appdata/") + identifier + u".appdata.xml";
+        if (QFile::exists(appdata))
+            return readFile(appdata);
     }
     return std::nullopt;
 }

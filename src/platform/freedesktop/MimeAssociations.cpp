@@ -21,6 +21,7 @@ MimeAssociations MimeAssociations::load(const QString &mimeType,
                                         const QStringList &desktops)
 {
     MimeAssociations result;
+    result.m_mimeType = mimeType;
     qsizetype applicationsIndex = 0;
     for (const XdgDirectories::Place &place : places) {
         PlaceLists lists;
@@ -37,10 +38,7 @@ MimeAssociations MimeAssociations::load(const QString &mimeType,
             // defaults.list is an old GLib-only file that still counts for defaults.
             expand(lists.defaults,
                    MimeAppsList::read(place.path + u"/defaults.list", mimeType).defaults());
-            // GIO lets the cache add back what this directory's own list removes; a
-            // removal only acts on the directories below.
-            expand(lists.additions,
-                   MimeAppsList::read(place.path + u"/mimeinfo.cache", mimeType).cached());
+            lists.cachePath = place.path + u"/mimeinfo.cache";
             lists.applicationsIndex = applicationsIndex++;
         }
         result.m_places.append(lists);
@@ -74,7 +72,12 @@ void MimeAssociations::collect(const DesktopFileLocator &locator, QStringList &h
                    && (lists.applicationsIndex < 0
                        || !locator.isShadowed(id, lists.applicationsIndex));
         };
-        for (const QString &id : lists.additions) {
+        // GIO lets the cache add back what this directory's own list removes; a removal only
+        // acts on the directories below. The cache is long and only read when asked for.
+        QStringList additions = lists.additions;
+        if (!lists.cachePath.isEmpty())
+            expand(additions, MimeAppsList::read(lists.cachePath, m_mimeType).cached());
+        for (const QString &id : std::as_const(additions)) {
             if (counts(id))
                 hits.append(id);
         }

@@ -30,11 +30,13 @@ private:
         QStringList defaults;
         QStringList additions;
         QStringList removals;
+        QString cachePath;                // mimeinfo.cache of an applications directory
         qsizetype applicationsIndex = -1; // index among the applications dirs; -1 for config
     };
 
     void collect(const DesktopFileLocator &locator, QStringList &hits,
                  QStringList &blacklist) const;
 
+    QString m_mimeType;
     QList<PlaceLists> m_places;
 };
