@@ -4,6 +4,7 @@
 #include "core/guard/GuardProfile.h"
 #include "core/guard/GuardSettings.h"
 #include "core/guard/HandlerDetector.h"
+#include "core/guard/HandlerSnapshot.h"
 #include "core/guard/ProtectionStatus.h"
 
 namespace {
@@ -43,7 +44,8 @@ QByteArray side(const GuardProfile &profile, SettingsStore &settings,
 QByteArray StatusReport::build(SettingsStore &settings, const HandlerDatabase &handlers)
 {
     // Browser first, so the console lines come in the guards' order.
-    const QByteArray browser = side(GuardProfile::browser(), settings, handlers);
-    const QByteArray email = side(GuardProfile::email(), settings, handlers);
+    const HandlerSnapshot snapshot(handlers);
+    const QByteArray browser = side(GuardProfile::browser(), settings, snapshot);
+    const QByteArray email = side(GuardProfile::email(), settings, snapshot);
     return "{\"browser\":" + browser + ",\"email\":" + email + "}\n";
 }
