@@ -30,31 +30,17 @@ struct LoopbackAnalytics {
     LoopbackAnalytics(const LoopbackAnalytics &) = delete;
     LoopbackAnalytics &operator=(const LoopbackAnalytics &) = delete;
 
-    // Every event the server has received so far, as sent.
-    QJsonArray events() const
-    {
-        QJsonArray all;
-        for (const LoopbackIngestion::Request &request : server.requests)
-            for (const QJsonValue &event : LoopbackIngestion::events(request))
-                all.append(event);
-        return all;
-    }
-
-    // Waits until every batch on its way has been answered, and returns every event so far.
-    QJsonArray arrived() const
+    // Waits until every batch on its way has been answered, and returns every event the
+    // server has received so far as its name and properties.
+    QList<QPair<QString, QJsonObject>> arrivedNamed() const
     {
         static_cast<void>(QTest::qWaitFor(
             [this] { return aptabase.client() && !aptabase.client()->dispatcher().isSending(); }));
-        return events();
-    }
-
-    // As arrived(), each event as its name and properties.
-    QList<QPair<QString, QJsonObject>> arrivedNamed() const
-    {
         QList<QPair<QString, QJsonObject>> named;
-        for (const QJsonValue &event : arrived())
-            named.append({event[QLatin1String("eventName")].toString(),
-                          event[QLatin1String("props")].toObject()});
+        for (const LoopbackIngestion::Request &request : server.requests)
+            for (const QJsonValue &event : LoopbackIngestion::events(request))
+                named.append({event[QLatin1String("eventName")].toString(),
+                              event[QLatin1String("props")].toObject()});
         return named;
     }
 

@@ -72,15 +72,11 @@ private Q_SLOTS:
         QCOMPARE(QFileInfo(m_db.applicationsForScheme("mailto").first()).fileName(),
                  QString("thunderbird.desktop"));
 
-        // xdg-settings writes helpers.rc alone: a shipped helper, or one it makes from the
-        // entry (whose X-XFCE-Commands name the program).
-        QVERIFY(run("xdg-settings", {"set", "default-web-browser", "chromium.desktop"}));
-        QCOMPARE(defaultId("https"), QString("chromium"));
-        QCOMPARE(defaultId("http"), QString("chromium"));
-        QCOMPARE(XdgTree::gioMime("x-scheme-handler/https").defaultId,
-                 QString("firefox-esr.desktop"));
+        // xdg-settings writes helpers.rc alone; without a shipped helper it makes one from the
+        // entry (whose X-XFCE-Commands name the program). A shipped one: the program's test.
         QVERIFY(run("xdg-settings", {"set", "default-web-browser", "firefox-esr.desktop"}));
         QCOMPARE(defaultId("https"), QString("firefox-esr"));
+        QCOMPARE(defaultId("http"), QString("firefox-esr"));
 
         // A set writes both stores and keeps the user's other lines.
         const QByteArray userRc =

@@ -185,8 +185,6 @@ private slots:
         const QByteArray defaults = "[Default Applications]\nx-scheme-handler/https=";
         QTest::newRow("blank at the end") << defaults + "beta.desktop \n"
                                           << "gamma.desktop";
-        QTest::newRow("tab at the end") << defaults + "beta.desktop\t\n"
-                                        << "gamma.desktop";
         QTest::newRow("escaped blank") << defaults + "beta.desktop\\s\n"
                                        << "gamma.desktop";
         QTest::newRow("blank after a separator") << defaults + "gone.desktop; beta.desktop\n"
@@ -313,15 +311,10 @@ private slots:
         }
         QCOMPARE(db.applicationsForScheme(QStringLiteral("https")).size(), 2);
 
-        const auto thunderbird =
-            db.applicationAt(*db.defaultApplicationForScheme(QStringLiteral("mailto")));
-        QVERIFY(thunderbird);
-        QCOMPARE(thunderbird->identifier, QStringLiteral("thunderbird"));
-        QCOMPARE(thunderbird->name, QStringLiteral("Thunderbird"));
-        QCOMPARE(thunderbird->version, std::nullopt);
-        const auto firefox =
-            db.applicationAt(*db.locationForIdentifier(QStringLiteral("firefox-esr")));
-        QCOMPARE(firefox->name, QStringLiteral("Firefox ESR"));
+        // A version only where AppStream data names one.
+        QCOMPARE(
+            db.applicationAt(*db.locationForIdentifier(QStringLiteral("firefox-esr")))->version,
+            std::nullopt);
 
         tree.write(
             QStringLiteral("share1/metainfo/firefox-esr.metainfo.xml"),

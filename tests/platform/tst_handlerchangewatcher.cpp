@@ -5,7 +5,6 @@
 
 #include <QDir>
 #include <QFile>
-#include <QStandardPaths>
 #include <QTest>
 
 #include <functional>
@@ -58,13 +57,6 @@ class HandlerChangeWatcherTest : public QObject {
     const QStringList browsers{"firefox", "chromium"};
 
 private Q_SLOTS:
-    void initTestCase()
-    {
-        for (const char *tool : {"xdg-mime", "xdg-settings"})
-            QVERIFY2(!QStandardPaths::findExecutable(tool).isEmpty(),
-                     "scripts/install-deps.sh installs the freedesktop tools");
-    }
-
     void init()
     {
         m_tree = std::make_unique<XdgTree>();

@@ -6,41 +6,6 @@ class TestMimeAppsListEditor : public QObject {
     Q_OBJECT
 
 private slots:
-    void changesOnlyTheNamedLines()
-    {
-        const QByteArray before =
-            "# made by hand\n"
-            "\n"
-            "[Removed Associations]\n"
-            "x-scheme-handler/https=old.desktop;\n"
-            "\n"
-            "[Added Associations]\n"
-            "text/html=web.desktop;\n"
-            "x-scheme-handler/https = web.desktop;new.desktop;other.desktop;\n"
-            "# keep me\n"
-            "image/png=viewer.desktop;\n"
-            "\n"
-            "[Default Applications]\n"
-            "text/html=web.desktop\n"
-            "x-scheme-handler/https=web.desktop\n"
-            "x-scheme-handler/http=web.desktop\n";
-        MimeAppsListEditor editor(before);
-        QCOMPARE(editor.values(QStringLiteral("Added Associations"),
-                               QStringLiteral("x-scheme-handler/https")),
-                 QStringList({"web.desktop", "new.desktop", "other.desktop"}));
-        editor.setValue(QStringLiteral("Default Applications"),
-                        QStringLiteral("x-scheme-handler/https"), "new.desktop");
-        editor.setValue(QStringLiteral("Added Associations"),
-                        QStringLiteral("x-scheme-handler/https"),
-                        "new.desktop;web.desktop;other.desktop;");
-        QByteArray expected = before;
-        expected.replace("x-scheme-handler/https = web.desktop;new.desktop;other.desktop;",
-                         "x-scheme-handler/https = new.desktop;web.desktop;other.desktop;");
-        expected.replace("x-scheme-handler/https=web.desktop\n",
-                         "x-scheme-handler/https=new.desktop\n");
-        QCOMPARE(editor.content(), expected);
-    }
-
     void addsKeysAndGroups_data()
     {
         QTest::addColumn<QByteArray>("before");

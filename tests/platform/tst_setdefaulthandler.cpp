@@ -51,7 +51,8 @@ private slots:
             "text/html=alpha.desktop\n"
             "\n"
             "[Added Associations]\n"
-            "x-scheme-handler/https=alpha.desktop;beta.desktop;gamma.desktop;\n"
+            "x-scheme-handler/https = alpha.desktop;beta.desktop;gamma.desktop;\n"
+            "# keep me\n"
             "image/png=gamma.desktop;\n";
         tree.write(QStringLiteral("config/mimeapps.list"), before);
         QCOMPARE(gioDefault("https"), QStringLiteral("alpha.desktop"));
@@ -60,8 +61,8 @@ private slots:
         QByteArray expected = before;
         expected.replace("x-scheme-handler/https=alpha.desktop\n",
                          "x-scheme-handler/https=beta.desktop\n");
-        expected.replace("https=alpha.desktop;beta.desktop;gamma.desktop;",
-                         "https=beta.desktop;alpha.desktop;gamma.desktop;");
+        expected.replace("https = alpha.desktop;beta.desktop;gamma.desktop;",
+                         "https = beta.desktop;alpha.desktop;gamma.desktop;");
         QCOMPARE(tree.read(QStringLiteral("config/mimeapps.list")), expected);
         QCOMPARE(XdgTree::xdgMimeDefault(QStringLiteral("x-scheme-handler/https")),
                  QStringLiteral("beta.desktop"));

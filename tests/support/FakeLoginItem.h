@@ -4,8 +4,7 @@
 
 #include <QStringList>
 
-// Launch at login in memory: registering turns it on, unregistering off, unless a failure
-// is set, which every call then reports instead.
+// Launch at login in memory: registering turns it on, unregistering off.
 class FakeLoginItem final : public LoginItem {
 public:
     bool isEnabled() const override { return m_enabled; }
@@ -13,7 +12,6 @@ public:
     std::optional<QString> unregisterItem() override { return set(false); }
 
     void setEnabled(bool enabled) { m_enabled = enabled; }
-    void setFailure(std::optional<QString> failure) { m_failure = std::move(failure); }
     // "register" and "unregister", in the order asked.
     const QStringList &calls() const { return m_calls; }
 
@@ -21,13 +19,10 @@ private:
     std::optional<QString> set(bool enabled)
     {
         m_calls << (enabled ? QStringLiteral("register") : QStringLiteral("unregister"));
-        if (m_failure)
-            return m_failure;
         m_enabled = enabled;
         return std::nullopt;
     }
 
     bool m_enabled = false;
-    std::optional<QString> m_failure;
     QStringList m_calls;
 };

@@ -42,8 +42,6 @@ public:
     XvfbDisplay &operator=(const XvfbDisplay &) = delete;
 
     bool isRunning() const { return !m_name.isEmpty(); }
-    // ":N"
-    const QString &name() const { return m_name; }
 
 private:
     QProcess m_server;

@@ -4,7 +4,6 @@
 #include "BuildConfig.h"
 
 #include <QDir>
-#include <QElapsedTimer>
 #include <QFile>
 #include <QJsonArray>
 #include <QJsonDocument>
@@ -73,11 +72,9 @@ class AppTest : public QObject {
         return runProgram(QStringLiteral(VANDOREL_BINARY), arguments, 30000);
     }
 
-    static QJsonObject status(QStringList *consoleLines = nullptr)
+    static QJsonObject status()
     {
         const ProgramRun answer = ask({QStringLiteral("--status")});
-        if (consoleLines)
-            *consoleLines = QString::fromUtf8(answer.err).split(u'\n', Qt::SkipEmptyParts);
         return answer.exitCode == 0 ? QJsonDocument::fromJson(answer.out).object() : QJsonObject();
     }
 
@@ -114,26 +111,6 @@ class AppTest : public QObject {
     {
         return QTest::qWaitFor(
             [&] { return (out += program.readAllStandardOutput()).contains(text); }, 20000);
-    }
-
-    // Runs the program until 3.5 s after its first change-log line (or 20 s without one)
-    // and notes when each change-log line arrived, in ms from the start.
-    QList<qint64> changeLogTimes(const QStringList &arguments, QByteArray *out)
-    {
-        QProcess program;
-        QElapsedTimer clock;
-        clock.start();
-        launch(program, arguments);
-        QList<qint64> times;
-        while (clock.elapsed() < (times.isEmpty() ? 20000 : times.first() + 3500)) {
-            program.waitForReadyRead(100);
-            *out += program.readAllStandardOutput();
-            while (times.size() < out->count("📝 Log: "))
-                times << clock.elapsed();
-        }
-        program.kill();
-        program.waitForFinished(5000);
-        return times;
     }
 
     void writeMismatchingTarget()
@@ -173,11 +150,6 @@ private Q_SLOTS:
         QCOMPARE(currentId(report, "browser"), QString("firefox-esr"));
         QCOMPARE(currentId(report, "browser"), gioDefault("https"));
         QCOMPARE(currentId(report, "email"), gioDefault("mailto"));
-        const QJsonObject browser = report.value(u"browser").toObject();
-        QCOMPARE(browser.value(u"current").toObject().value(u"name").toString(),
-                 QString("Firefox ESR"));
-        QVERIFY(browser.value(u"target").isNull());
-        QCOMPARE(browser.value(u"status").toString(), QString("notProtected"));
 
         QVERIFY(run(QStringLiteral("gio"), {"mime", "x-scheme-handler/https", "chromium.desktop"}));
         QVERIFY(
@@ -187,13 +159,6 @@ private Q_SLOTS:
         QCOMPARE(currentId(report, "browser"), gioDefault("https"));
         QCOMPARE(currentId(report, "email"), QString("claws-mail"));
         QCOMPARE(currentId(report, "email"), gioDefault("mailto"));
-
-        // xdg-settings changes http and https together.
-        QVERIFY(run(QStringLiteral("xdg-settings"),
-                    {"set", "default-web-browser", "firefox-esr.desktop"}));
-        report = status();
-        QCOMPARE(currentId(report, "browser"), QString("firefox-esr"));
-        QCOMPARE(currentId(report, "browser"), gioDefault("https"));
 
         // Nothing was written: no settings file, no first-launch defaults.
         QVERIFY(!QFile::exists(settingsPath()));
@@ -287,17 +252,11 @@ private Q_SLOTS:
             XdgTree::gioMime(QStringLiteral("x-scheme-handler/https")).registered;
         QVERIFY(!registered.contains(QStringLiteral("ghost.desktop")));
 
-        QStringList console;
-        const QJsonObject report = status(&console);
+        const QJsonObject report = status();
         // The entries' own names (not their actions'), by code point: capitals first.
         QCOMPARE(installedNames(report, "browser"),
                  QStringList({"Admin Panel", "Chromium Web Browser", "Firefox ESR", "Nightly"}));
         QCOMPARE(installedNames(report, "email"), QStringList({"Thunderbird", "claws-mail"}));
-        // Known ids announce themselves, in the order of the known lists.
-        QCOMPARE(console,
-                 QStringList({"✅ Found: Firefox ESR", "✅ Found: Nightly",
-                              "✅ Found: Chromium Web Browser", "📊 Total: 4", "✅ Found: Thunderbird",
-                              "✅ Found: claws-mail", "📧 Email: Total: 2"}));
     }
 
     void statusReadsTargetsAndSwitchesFromTheStore()
@@ -415,61 +374,49 @@ private Q_SLOTS:
         return {};
     }
 
-    // Logout (SIGTERM), Ctrl+C and a closed terminal end the program as a quit does: the
-    // event loop ends and the program gives its place up.
-    void signalsFromOutsideEndTheProgramInOrder_data()
-    {
-        QTest::addColumn<int>("signal");
-        QTest::newRow("SIGTERM") << SIGTERM;
-        QTest::newRow("SIGINT") << SIGINT;
-        QTest::newRow("SIGHUP") << SIGHUP;
-    }
+    // Logout (SIGTERM), Ctrl+C and a closed terminal are caught, and end the program as a
+    // quit does: the event loop ends and the program gives its place up. A hang-up ignored
+    // at start, as under nohup, stays ignored.
     void signalsFromOutsideEndTheProgramInOrder()
     {
-        QFETCH(int, signal);
         QTemporaryDir runtime;
         QProcess program;
         QVERIFY(startInOwnRuntime(program, runtime));
+        const QSet<int> quits{SIGTERM, SIGINT, SIGHUP};
+        QCOMPARE(signalsOf(program.processId(), "SigCgt") & quits, quits);
         const QString lock = runtime.filePath(QString::fromUtf8(BuildConfig::appId) + u".lock");
         QVERIFY(QFile::exists(lock));
-        ::kill(static_cast<pid_t>(program.processId()), signal);
+        ::kill(static_cast<pid_t>(program.processId()), SIGINT);
         QVERIFY(program.waitForFinished(10000));
         QCOMPARE(program.exitStatus(), QProcess::NormalExit);
         QCOMPARE(program.exitCode(), 0);
         QVERIFY(!QFile::exists(lock));
-    }
 
-    // A hang-up ignored at start, as under nohup, stays ignored.
-    void anIgnoredHangUpStaysIgnored()
-    {
-        QTemporaryDir runtime;
-        QProcess program;
         QVERIFY(startInOwnRuntime(program, runtime, QStringLiteral("trap '' HUP; exec \"$0\"")));
-        const QSet<int> ignored = signalsOf(program.processId(), "SigIgn");
-        const QSet<int> caught = signalsOf(program.processId(), "SigCgt");
-        QVERIFY(ignored.contains(SIGHUP));
-        QVERIFY(!caught.contains(SIGHUP));
-        QVERIFY(caught.contains(SIGTERM) && caught.contains(SIGINT));
+        QVERIFY(signalsOf(program.processId(), "SigIgn").contains(SIGHUP));
+        QCOMPARE(signalsOf(program.processId(), "SigCgt") & quits, (QSet<int>{SIGTERM, SIGINT}));
         program.terminate();
         QVERIFY(program.waitForFinished(10000));
         QCOMPARE(program.exitStatus(), QProcess::NormalExit);
     }
 
     // The check at start counts the change away from the target; a launch at login
-    // checks once more two seconds later.
-    void aLaunchAtLoginChecksAgainTwoSecondsLater()
+    // checks once more a little later (when, the guard's own tests say).
+    void aLaunchAtLoginChecksAgain()
     {
         writeMismatchingTarget();
-        QByteArray out;
-        const QList<qint64> times = changeLogTimes({QStringLiteral("--login")}, &out);
-        QVERIFY2(out.contains("🚀 Launched at login\n"), out.constData());
-        QCOMPARE(times.size(), 2);
-        QVERIFY2(times[1] - times[0] >= 1800 && times[1] - times[0] <= 3400,
-                 qPrintable(QString::number(times[1] - times[0])));
-
-        out.clear();
-        QCOMPARE(changeLogTimes({}, &out).size(), 1);
-        QVERIFY(!out.contains("Launched at login"));
+        for (const bool atLogin : {true, false}) {
+            QProcess program;
+            launch(program, atLogin ? QStringList{"--login"} : QStringList{});
+            QByteArray out;
+            const int checks = atLogin ? 2 : 1;
+            QVERIFY(QTest::qWaitFor(
+                [&] { return (out += program.readAllStandardOutput()).count("📝 Log: ") == checks; },
+                20000));
+            QCOMPARE(out.contains("🚀 Launched at login\n"), atLogin);
+            program.kill();
+            program.waitForFinished(5000);
+        }
     }
 };
 

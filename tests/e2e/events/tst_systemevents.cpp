@@ -6,7 +6,6 @@
 #include "platform/freedesktop/FreedesktopSystemEvents.h"
 
 #include <QDBusConnectionInterface>
-#include <QScopeGuard>
 #include <QSignalSpy>
 #include <QTest>
 
@@ -102,34 +101,17 @@ private Q_SLOTS:
         screenSaverActive(saver, true);
         QVERIFY(delivered(saver, QDBusConnection::sessionBus()));
         QCOMPARE(unlocks.count(), 0);
+        // KDE's locker sends each signal from /ScreenSaver as well as from the service's own
+        // path; and logind's hint is not listened to besides: one unlock is one event.
         screenSaverActive(saver, false);
-        QTRY_COMPARE(unlocks.count(), 1);
-        // logind's hint is not listened to as well: one unlock is one event.
+        screenSaverActive(saver, false, QStringLiteral("/ScreenSaver"));
         logind.lockedHintChanged(false);
+        QVERIFY(delivered(saver, QDBusConnection::sessionBus()));
         QVERIFY(delivered(logind));
         QCOMPARE(unlocks.count(), 1);
 
         saver.unregisterService(QStringLiteral("org.freedesktop.ScreenSaver"));
         QDBusConnection::disconnectFromBus(QStringLiteral("screensaver"));
-    }
-
-    // KDE's locker publishes one object at /ScreenSaver and at the service's own path, and
-    // each signal comes from both: one unlock must stay one event.
-    void anUnlockSentFromTwoPathsIsOneEvent()
-    {
-        QDBusConnection saver = screenSaverBus();
-        QVERIFY(saver.registerService(QStringLiteral("org.freedesktop.ScreenSaver")));
-        const auto cleanup = qScopeGuard([&] {
-            saver.unregisterService(QStringLiteral("org.freedesktop.ScreenSaver"));
-            QDBusConnection::disconnectFromBus(QStringLiteral("screensaver"));
-        });
-        FreedesktopSystemEvents events;
-        QSignalSpy unlocks(&events, &SystemEvents::screenUnlocked);
-
-        screenSaverActive(saver, false);
-        screenSaverActive(saver, false, QStringLiteral("/ScreenSaver"));
-        QVERIFY(delivered(saver, QDBusConnection::sessionBus()));
-        QCOMPARE(unlocks.count(), 1);
     }
 
     void withoutAScreenSaverTheSessionLockHintIsWatched()
@@ -169,17 +151,14 @@ private Q_SLOTS:
         ConsoleCapture console;
         logind.sleep(false);
         QTRY_COMPARE(console.startingWith("🔍").size(), 2);
-        QVERIFY(console.contains("🔍 Checking after wake"));
-        QVERIFY(console.contains("🔍 Email: Checking after wake"));
         // The check resolves the default afresh.
         QCOMPARE(browser.currentDefaultBrowser()->bundleIdentifier, QString("chromium"));
 
-        console.take();
         browser.setCheckOnWake(false);
         logind.sleep(false);
-        QTRY_COMPARE(console.startingWith("🔍").size(), 1);
         QVERIFY(delivered(logind));
-        QCOMPARE(console.startingWith("🔍"), QStringList({"🔍 Email: Checking after wake"}));
+        QCOMPARE(console.startingWith("🔍 Email: Checking after wake").size(), 2);
+        QCOMPARE(console.startingWith("🔍").size(), 3);
     }
 };
 

@@ -3,19 +3,17 @@
 #include "XdgTree.h"
 #include "core/guard/BrowserManager.h"
 #include "core/guard/DefaultFileMonitor.h"
-#include "core/guard/EmailClientManager.h"
 #include "platform/freedesktop/FreedesktopHandlerChangeWatcher.h"
 #include "platform/freedesktop/FreedesktopHandlerDatabase.h"
 
 #include <QDir>
 #include <QProcess>
-#include <QStandardPaths>
 
 #include <memory>
 
-// The guards against the real freedesktop handler database: another program takes a role
-// over with xdg-mime, the next check finds it, and after the change back gio reads the
-// target again. With the files watched, a takeover is found without the tick.
+// The browser guard against the real freedesktop handler database: another program takes
+// the role over, the next check finds it, and after the change back gio reads the target
+// again. With the files watched, a takeover is found without the tick.
 class GuardEndToEndTest : public QObject {
     Q_OBJECT
 
@@ -46,98 +44,18 @@ class GuardEndToEndTest : public QObject {
     };
 
 private Q_SLOTS:
-    void initTestCase()
-    {
-        for (const char *tool : {"xdg-mime", "gio", "update-desktop-database"})
-            QVERIFY2(!QStandardPaths::findExecutable(tool).isEmpty(),
-                     "scripts/install-deps.sh installs the freedesktop tools");
-    }
-
     void init()
     {
         m_tree = new XdgTree;
         const QByteArray web = "x-scheme-handler/http;x-scheme-handler/https;";
         entry("firefox", "Firefox", web);
         entry("chromium", "Chromium", web);
-        entry("thunderbird", "Thunderbird", "x-scheme-handler/mailto;");
-        entry("evolution", "Evolution", "x-scheme-handler/mailto;");
         m_tree->updateCaches();
     }
     void cleanup()
     {
         delete m_tree;
         m_tree = nullptr;
-    }
-
-    void aTakenOverRoleIsFoundAndChangedBack_data()
-    {
-        QTest::addColumn<bool>("mail");
-        QTest::addColumn<QStringList>("schemes");
-        QTest::addColumn<QString>("target");
-        QTest::addColumn<QString>("intruder");
-        QTest::addColumn<QStringList>("expected");
-        QTest::newRow("browser") << false << QStringList{"https", "http"} << "firefox"
-                                 << "chromium"
-                                 << QStringList{"📝 Log: Browser changed from Firefox to Chromium",
-                                                "   HTTP: 0, HTTPS: 0",
-                                                "📡 Poll 1: firefox vs firefox",
-                                                "📝 Log: Browser changed from Chromium to Firefox",
-                                                "✅ Browser set to Firefox"};
-        QTest::newRow("mail") << true << QStringList{"mailto"} << "thunderbird"
-                              << "evolution"
-                              << QStringList{
-                                     "📝 Log: Email client changed from Thunderbird to Evolution",
-                                     "   mailto: 0", "📡 Email Poll 1: thunderbird vs thunderbird",
-                                     "📝 Log: Email client changed from Evolution to Thunderbird",
-                                     "✅ Email client set to Thunderbird"};
-    }
-
-    void aTakenOverRoleIsFoundAndChangedBack()
-    {
-        QFETCH(bool, mail);
-        QFETCH(QStringList, schemes);
-        QFETCH(QString, target);
-        QFETCH(QString, intruder);
-        QFETCH(QStringList, expected);
-
-        Rig rig;
-        FakeTimerFactory &timers = rig.timers;
-        ScriptedPrompter &alerts = rig.alerts;
-        QVERIFY(xdgMimeDefault(target, schemes));
-        std::unique_ptr<HandlerGuard> guard;
-        if (mail)
-            guard = std::make_unique<EmailClientManager>(rig.env);
-        else
-            guard = std::make_unique<BrowserManager>(rig.env);
-        QCOMPARE(guard->currentDefault()->bundleIdentifier, target);
-        guard->setTarget(guard->currentDefault());
-
-        QVERIFY(xdgMimeDefault(intruder, schemes));
-        ConsoleCapture console;
-        timers.fire(600s);
-        QCOMPARE(console.lines(), expected.mid(0, 1));
-        QCOMPARE(guard->changeCount(), 1);
-        ScriptedPrompter::settle();
-        QCOMPARE(alerts.shown().size(), 1);
-
-        QVERIFY(alerts.answer(0)); // change back
-        // The system calls run on a worker; its hand-back starts the poll.
-        QVERIFY(QTest::qWaitFor([&] { return !timers.activeWithInterval(1s).isEmpty(); }, 10000));
-        timers.fire(1s);
-        QVERIFY(!guard->isChanging());
-        for (const QString &line : expected)
-            QVERIFY2(console.contains(line), qPrintable(line));
-        QCOMPARE(console.lines().last(), expected.last());
-        QCOMPARE(guard->changeCount(), 2);
-        for (const QString &scheme : schemes)
-            QCOMPARE(XdgTree::gioMime(u"x-scheme-handler/" + scheme).defaultId,
-                     target + u".desktop");
-
-        // Back in place: the next check is quiet.
-        console.take();
-        timers.fire(600s);
-        QVERIFY(console.lines().isEmpty());
-        QCOMPARE(guard->changeCount(), 2);
     }
 
     // A hand edit left a line GLib refuses in the user's list: GIO reads none of it, so the
@@ -159,7 +77,6 @@ private Q_SLOTS:
             if (record.bundleIdentifier == u"firefox")
                 guard.setTarget(record);
         }
-        ConsoleCapture console;
         rig.timers.fire(600s);
         QCOMPARE(guard.changeCount(), 1);
         QTRY_VERIFY(rig.alerts.isPresenting());
@@ -167,7 +84,7 @@ private Q_SLOTS:
         QVERIFY(
             QTest::qWaitFor([&] { return !rig.timers.activeWithInterval(1s).isEmpty(); }, 10000));
         rig.timers.fire(1s);
-        QVERIFY(console.contains(QStringLiteral("📡 Poll 1: firefox vs firefox")));
+        QCOMPARE(guard.currentDefault()->bundleIdentifier, QStringLiteral("firefox"));
         QCOMPARE(XdgTree::gioMime(https).defaultId, QStringLiteral("firefox.desktop"));
         QCOMPARE(QDir(m_tree->path(QStringLiteral("config")))
                      .entryList({QStringLiteral("mimeapps.list.unreadable-*")})
@@ -192,7 +109,6 @@ private Q_SLOTS:
         BrowserManager browser(rig.env);
         browser.setTarget(browser.currentDefault());
 
-        ConsoleCapture console;
         if (tool == u"xdg-mime")
             QVERIFY(xdgMimeDefault("chromium", {"https", "http"}));
         else if (tool == u"gio")
@@ -204,7 +120,6 @@ private Q_SLOTS:
                               .replace("=firefox.desktop", "=chromium.desktop"));
         QVERIFY(QTest::qWaitFor(
             [&] { return rig.timers.fire(DefaultFileMonitor::settleDelay) > 0; }, 10000));
-        QCOMPARE(console.lines(), QStringList{"📝 Log: Browser changed from Firefox to Chromium"});
         QCOMPARE(browser.changeCount(), 1);
         GuardWorld::settle();
         QCOMPARE(rig.alerts.shown().size(), 1);

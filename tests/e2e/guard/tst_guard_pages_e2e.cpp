@@ -3,14 +3,12 @@
 
 #include <QComboBox>
 #include <QPushButton>
-#include <QStandardPaths>
 
 using namespace std::chrono_literals;
 
 // A guard page over the real freedesktop handler database: choosing a target and pressing
 // Set now changes the default as gio reads it; the page waits with a spinner while the
-// change is watched and shows the green row once the guard sees the new default; Stop ends
-// a change that is being watched and brings the button back.
+// change is watched and shows the green row once the guard sees the new default.
 class GuardPagesEndToEndTest : public QObject {
     Q_OBJECT
 
@@ -24,12 +22,6 @@ class GuardPagesEndToEndTest : public QObject {
     }
 
 private Q_SLOTS:
-    void initTestCase()
-    {
-        for (const char *tool : {"gio", "update-desktop-database"})
-            QVERIFY2(!QStandardPaths::findExecutable(tool).isEmpty(), tool);
-    }
-
     void setNowChangesTheDefault_data()
     {
         QTest::addColumn<bool>("mail");
@@ -74,16 +66,6 @@ private Q_SLOTS:
         QVERIFY(!shows(page.get(), "changing"));
         QVERIFY(!shows(page.get(), "setNowButton"));
         QCOMPARE(guard.changeCount(), 1);
-
-        // Back to the first one, stopped while watched: the button comes back.
-        QVERIFY(choose(control<QComboBox>(page.get(), "targetPicker"), before));
-        QTest::mouseClick(control<QPushButton>(page.get(), "setNowButton"), Qt::LeftButton);
-        QTRY_VERIFY(rig.pollTimer(guard));
-        QVERIFY(shows(page.get(), "changing"));
-        QTest::mouseClick(control<QPushButton>(page.get(), "stopButton"), Qt::LeftButton);
-        QVERIFY(!guard.isChanging());
-        QVERIFY(!rig.pollTimer(guard));
-        QVERIFY(shows(page.get(), "setNowButton"));
         QVERIFY(!page->findChild<BusySpinner *>()->isSpinning());
     }
 };
