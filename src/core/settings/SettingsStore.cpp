@@ -1,6 +1,7 @@
 #include "core/settings/SettingsStore.h"
 
 #include "BuildConfig.h"
+#include "foundation/AbandonedLockFile.h"
 
 #include <QStandardPaths>
 
@@ -48,6 +49,9 @@ std::optional<bool> boolFromText(const QString &text)
 SettingsStore::SettingsStore(const QString &filePath, QObject *parent)
     : QObject(parent), m_settings(filePath, QSettings::IniFormat)
 {
+    // QSettings writes under this lock; one left by a killed writer would hold every write
+    // back for thirty seconds, and the guards' checks with them.
+    removeAbandonedLockFile(filePath + QStringLiteral(".lock"));
 }
 
 QString SettingsStore::defaultFilePath()

@@ -1,5 +1,7 @@
 #include "platform/freedesktop/LockFileSingleInstance.h"
 
+#include "foundation/AbandonedLockFile.h"
+
 #include <QDir>
 #include <QStandardPaths>
 
@@ -15,6 +17,8 @@ QString LockFileSingleInstance::lockPath(const QString &appId)
 
 bool LockFileSingleInstance::claim()
 {
+    // Without a holder's name, the lock would count as held for ever.
+    removeAbandonedLockFile(lockPath(m_appId));
     m_lock = std::make_unique<QLockFile>(lockPath(m_appId));
     m_lock->setStaleLockTime(0); // only a dead owner makes a lock stale, never its age
     return m_lock->tryLock(0);

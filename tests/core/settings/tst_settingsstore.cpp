@@ -1,5 +1,6 @@
 #include "TempSettings.h"
 
+#include <QLockFile>
 #include <QTest>
 
 // Values are read twice: in the writing store, and through a fresh store on the same file,
@@ -60,6 +61,26 @@ private Q_SLOTS:
         QVERIFY(!store.dateValue("date"));
         // Unreadable values stay where they are.
         QCOMPARE(store.stringValue("blob"), QString("not bytes"));
+    }
+
+    // A writer killed between creating its lock file and naming itself in it leaves an empty
+    // file, which would hold the next program's writes back for thirty seconds.
+    void aLockNobodyHoldsIsClearedAndAHeldOneKept()
+    {
+        TempSettings temp;
+        const QString lockPath = temp.path() + ".lock";
+        QFile abandoned(lockPath);
+        QVERIFY(abandoned.open(QIODevice::WriteOnly));
+        abandoned.close();
+        SettingsStore &store = temp.reopen();
+        QVERIFY(!QFile::exists(lockPath));
+        store.setString("after", "kill");
+        QCOMPARE(temp.reopen().stringValue("after"), QString("kill"));
+
+        QLockFile held(lockPath);
+        QVERIFY(held.tryLock(0));
+        temp.reopen();
+        QVERIFY(QFile::exists(lockPath));
     }
 
     void everyWriteIsAnnouncedAfterItIsStoredAndOtherKeysAreKept()
