@@ -63,8 +63,6 @@ private Q_SLOTS:
 
         QTest::newRow("system fr-CA") << QStringList{"fr-CA", "en-US"} << QString()
                                       << int(AppLanguage::french) << started("fr");
-        QTest::newRow("system sv-SE") << QStringList{"sv-SE"} << QString()
-                                      << int(AppLanguage::english) << started("sv", false);
         QTest::newRow("only the first entry counts")
             << QStringList{"sv-SE", "de-DE"} << QString() << int(AppLanguage::english)
             << started("sv", false);

