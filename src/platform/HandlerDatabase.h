@@ -4,13 +4,14 @@
 #include <QStringList>
 
 #include <functional>
+#include <memory>
 #include <optional>
 
 // What the system knows about applications and the URL schemes they handle.
 // An application is addressed by its location (on freedesktop: the absolute path of its
 // desktop entry, or "!" and a program the desktop runs without one) or by its identifier
 // (the desktop file id without ".desktop").
-// Every read is made afresh; nothing is cached across calls.
+// An answer never outlives a change of the files it was read from.
 class HandlerDatabase {
 public:
     // The facts of one application, read at a location.
@@ -44,6 +45,10 @@ public:
     // Makes the application with this identifier the default for the scheme. Returns 0 on
     // success and a non-zero status otherwise. Safe to call from a worker thread.
     virtual int setDefaultHandler(const QString &scheme, const QString &identifier) = 0;
+
+    // While the returned hold lives, the database may answer from what it has read without
+    // looking whether the files changed: for a run of questions that make up one picture.
+    virtual std::shared_ptr<void> holdReading() const { return nullptr; }
 
     // Where the database writes a line that tells why a change failed; nowhere by default.
     using LineSink = std::function<void(const QString &line)>;

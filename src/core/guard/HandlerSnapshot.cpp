@@ -14,7 +14,10 @@ Answer remembered(QHash<QString, Answer> &answers, const QString &key, Ask ask)
 
 } // namespace
 
-HandlerSnapshot::HandlerSnapshot(const HandlerDatabase &handlers) : m_handlers(handlers) {}
+HandlerSnapshot::HandlerSnapshot(const HandlerDatabase &handlers)
+    : m_handlers(handlers), m_hold(handlers.holdReading())
+{
+}
 
 QStringList HandlerSnapshot::knownIdentifiers(Kind kind) const
 {

@@ -6,8 +6,8 @@
 
 // The handler database as one report sees it: each question is put to the database once and
 // its answer kept for the life of the snapshot, so the two guards' detection and resolution,
-// which ask about the same applications many times, read each of them once. It only reads;
-// a change is refused.
+// which ask about the same applications many times, read each of them once; and the database
+// is held to one reading meanwhile. It only reads; a change is refused.
 class HandlerSnapshot : public HandlerDatabase {
 public:
     explicit HandlerSnapshot(const HandlerDatabase &handlers);
@@ -22,6 +22,7 @@ public:
 
 private:
     const HandlerDatabase &m_handlers;
+    const std::shared_ptr<void> m_hold;
     mutable QHash<QString, QStringList> m_applications;
     mutable QHash<QString, std::optional<QString>> m_defaults;
     mutable QHash<QString, std::optional<QString>> m_locations;

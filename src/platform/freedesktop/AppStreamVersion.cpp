@@ -7,24 +7,40 @@
 std::optional<QString> AppStreamVersion::find(const QString &identifier,
                                               const QStringList &dataDirs)
 {
-    if (identifier.isEmpty() || identifier.contains(u'/'))
+    const QString file = path(identifier, dataDirs);
+    if (file.isEmpty())
         return std::nullopt;
+    return readFile(file);
+}
+
+QString AppStreamVersion::path(const QString &identifier, const QStringList &dataDirs)
+{
+    if (identifier.isEmpty() || identifier.contains(u'/'))
+        return {};
     for (const QString &dir : dataDirs) {
         // Most data directories have neither folder: one look each instead of one per name.
         const QString metainfo = dir + QStringLiteral("/metainfo/");
         if (QFileInfo(metainfo).isDir()) {
             for (const char *name :
                  {"%1.metainfo.xml", "%1.appdata.xml", "%1.desktop.metainfo.xml"}) {
-                const QString path = metainfo + QString::fromLatin1(name).arg(identifier);
-                if (QFile::exists(path))
-                    return readFile(path);
+                const QString candidate = metainfo + QString::fromLatin1(name).arg(identifier);
+                if (QFile::exists(candidate))
+                    return candidate;
             }
         }
         const QString appdata = dir + QStringLiteral("/appdata/") + identifier + u".appdata.xml";
         if (QFile::exists(appdata))
-            return readFile(appdata);
+            return appdata;
     }
-    return std::nullopt;
+    return {};
+}
+
+QStringList AppStreamVersion::folders(const QStringList &dataDirs)
+{
+    QStringList result;
+    for (const QString &dir : dataDirs)
+        result << dir + QStringLiteral("/metainfo") << dir + QStringLiteral("/appdata");
+    return result;
 }
 
 std::optional<QString> AppStreamVersion::readFile(const QString &path)

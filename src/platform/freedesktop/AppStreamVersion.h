@@ -11,5 +11,9 @@
 class AppStreamVersion {
 public:
     static std::optional<QString> find(const QString &identifier, const QStringList &dataDirs);
+    // The file find() reads, or an empty string.
+    static QString path(const QString &identifier, const QStringList &dataDirs);
+    // The folders whose entries decide which file that is, in every data dir.
+    static QStringList folders(const QStringList &dataDirs);
     static std::optional<QString> readFile(const QString &path);
 };

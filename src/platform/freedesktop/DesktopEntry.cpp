@@ -140,15 +140,24 @@ QString DesktopEntry::programPath(const QString &program)
     };
     if (program.contains(u'/'))
         return isExecutableFile(program) ? program : QString();
-    QString searchPath = qEnvironmentVariable("PATH");
-    if (!qEnvironmentVariableIsSet("PATH"))
-        searchPath = QStringLiteral("/bin:/usr/bin:.");
-    for (const QString &dir : searchPath.split(u':')) {
-        const QString candidate = (dir.isEmpty() ? QStringLiteral(".") : dir) + u'/' + program;
+    for (const QString &dir : searchPath()) {
+        const QString candidate = dir + u'/' + program;
         if (isExecutableFile(candidate))
             return candidate;
     }
     return {};
+}
+
+QStringList DesktopEntry::searchPath()
+{
+    if (!qEnvironmentVariableIsSet("PATH"))
+        return {QStringLiteral("/bin"), QStringLiteral("/usr/bin"), QStringLiteral(".")};
+    QStringList dirs = qEnvironmentVariable("PATH").split(u':');
+    for (QString &dir : dirs) {
+        if (dir.isEmpty())
+            dir = QStringLiteral(".");
+    }
+    return dirs;
 }
 
 bool DesktopEntry::isSameProgram(const QString &a, const QString &b)

@@ -37,6 +37,8 @@ public:
     static bool programExists(const QString &program);
     // Where that file is, or an empty string.
     static QString programPath(const QString &program);
+    // The folders a program named without a path is looked for in, in order.
+    static QStringList searchPath();
     // The program of a command line, split as a shell would split it.
     static std::optional<QString> commandProgram(const QString &commandLine);
     // Whether two programs are one: the same name, or the same file once found.

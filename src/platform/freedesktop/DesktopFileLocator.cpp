@@ -9,7 +9,8 @@ namespace {
 const QString suffix = QStringLiteral(".desktop");
 
 // `name` is what is left of the id below `dir`; each '-' may stand for a subdirectory.
-QString findBelow(const QString &dir, const QString &name)
+QString findBelow(const QString &dir, const QString &name,
+                  const DesktopFileLocator::Observer &observer)
 {
     const QString direct = dir + u'/' + name;
     if (QFileInfo(direct).isFile())
@@ -18,7 +19,9 @@ QString findBelow(const QString &dir, const QString &name)
         const QString subdir = dir + u'/' + name.first(dash);
         if (!QFileInfo(subdir).isDir())
             continue;
-        const QString found = findBelow(subdir, name.sliced(dash + 1));
+        if (observer)
+            observer(subdir);
+        const QString found = findBelow(subdir, name.sliced(dash + 1), observer);
         if (!found.isEmpty())
             return found;
     }
@@ -27,35 +30,59 @@ QString findBelow(const QString &dir, const QString &name)
 
 } // namespace
 
-DesktopFileLocator::DesktopFileLocator(QStringList applicationsDirs)
-    : m_dirs(std::move(applicationsDirs))
+DesktopFileLocator::DesktopFileLocator(QStringList applicationsDirs, Observer observer)
+    : m_dirs(std::move(applicationsDirs)), m_observer(std::move(observer))
 {
 }
 
 QString DesktopFileLocator::fileInDirectory(const QString &dir, const QString &desktopId)
 {
+    return DesktopFileLocator(QStringList()).findIn(dir, desktopId);
+}
+
+QString DesktopFileLocator::findIn(const QString &dir, const QString &desktopId) const
+{
     if (!desktopId.endsWith(suffix) || desktopId.contains(u'/') || desktopId.startsWith(u'.'))
         return {};
-    return findBelow(dir, desktopId);
+    return findBelow(dir, desktopId, m_observer);
 }
 
 bool DesktopFileLocator::isShadowed(const QString &desktopId, qsizetype index) const
 {
     for (qsizetype i = 0; i < index && i < m_dirs.size(); ++i) {
-        if (!fileInDirectory(m_dirs[i], desktopId).isEmpty())
+        if (!findIn(m_dirs[i], desktopId).isEmpty())
             return true;
     }
     return false;
+}
+
+// Whether a program is there shows in the folder it is looked for in.
+void DesktopFileLocator::observePrograms(const DesktopEntry &entry) const
+{
+    for (const auto &program : {std::optional(entry.tryExec()), entry.execProgram()}) {
+        if (!program || program->isEmpty())
+            continue;
+        if (program->contains(u'/')) {
+            m_observer(QFileInfo(*program).absolutePath());
+            continue;
+        }
+        for (const QString &dir : DesktopEntry::searchPath())
+            m_observer(dir);
+    }
 }
 
 std::optional<DesktopFileLocator::Resolved>
 DesktopFileLocator::resolve(const QString &desktopId) const
 {
     for (const QString &dir : m_dirs) {
-        const QString file = fileInDirectory(dir, desktopId);
+        const QString file = findIn(dir, desktopId);
         if (file.isEmpty())
             continue;
+        if (m_observer)
+            m_observer(file);
         const auto entry = DesktopEntry::read(file);
+        if (entry && m_observer)
+            observePrograms(*entry);
         if (entry && entry->isLaunchable())
             return Resolved{file, *entry};
     }

@@ -5,6 +5,7 @@
 #include <QString>
 #include <QStringList>
 
+#include <functional>
 #include <optional>
 
 // Maps desktop file ids ("firefox-esr.desktop", "kde4-foo.desktop") to files in the
@@ -17,7 +18,11 @@ public:
         DesktopEntry entry;
     };
 
-    explicit DesktopFileLocator(QStringList applicationsDirs);
+    // Told of each entry before it is read, of each subdirectory looked into and of the
+    // folder of each program an entry names by its path.
+    using Observer = std::function<void(const QString &path)>;
+
+    explicit DesktopFileLocator(QStringList applicationsDirs, Observer observer = {});
 
     const QStringList &directories() const { return m_dirs; }
 
@@ -37,5 +42,9 @@ public:
                                          const QStringList &preferredIds) const;
 
 private:
+    QString findIn(const QString &dir, const QString &desktopId) const;
+    void observePrograms(const DesktopEntry &entry) const;
+
     QStringList m_dirs;
+    Observer m_observer;
 };

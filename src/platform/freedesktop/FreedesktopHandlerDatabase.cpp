@@ -3,6 +3,7 @@
 #include "platform/freedesktop/AppStreamVersion.h"
 #include "platform/freedesktop/DesktopFileLocator.h"
 #include "platform/freedesktop/DesktopLinkStore.h"
+#include "platform/freedesktop/FileStamps.h"
 #include "platform/freedesktop/FreedesktopKnownApplications.h"
 #include "platform/freedesktop/KeyFileScanner.h"
 #include "platform/freedesktop/MimeAppsListEditor.h"
@@ -14,7 +15,9 @@
 
 #include <QDate>
 #include <QFileInfo>
+#include <QHash>
 #include <QMutex>
+#include <QScopeGuard>
 
 namespace {
 
@@ -25,17 +28,6 @@ const QString addedGroup = QStringLiteral("Added Associations");
 // Writers in this process take turns; each write replaces its file atomically, so readers
 // never need the lock.
 QMutex writeLock;
-
-DesktopFileLocator currentLocator()
-{
-    return DesktopFileLocator(XdgDirectories::applicationsDirs());
-}
-
-MimeAssociations associationsFor(const QString &mimeType)
-{
-    return MimeAssociations::load(mimeType, XdgDirectories::mimeappsPlaces(),
-                                  XdgDirectories::currentDesktops());
-}
 
 QString stripSuffix(QString desktopId)
 {
@@ -115,17 +107,172 @@ QStringList FreedesktopHandlerDatabase::knownIdentifiers(Kind kind) const
                                  : FreedesktopKnownApplications::mailClients();
 }
 
+// What the database has read under one environment, with the stamps of every file and
+// folder the answers came from. Every question starts with refresh(), which drops it all when
+// one of them changed.
+class FreedesktopHandlerDatabase::Reading {
+public:
+    QMutex mutex;
+    int holds = 0;
+
+    void refresh();
+    void forget()
+    {
+        m_environment.clear();
+        m_checkedInHold = false;
+    }
+
+    const DesktopFileLocator &locator() const { return m_locator; }
+    const QStringList &dataDirs() const { return m_dataDirs; }
+    const DesktopLinkStore *store() const { return m_store.get(); }
+    void note(const QString &path) { m_stamps.note(path); }
+
+    std::optional<DesktopFileLocator::Resolved> resolve(const QString &desktopId);
+    const MimeAssociations &associations(const QString &mimeType);
+    const QStringList &associated(const QString &mimeType);
+    // The entry at a path, read once.
+    std::optional<DesktopEntry> entryAt(const QString &path);
+
+    QHash<QString, QStringList> applications;
+    QHash<QString, std::optional<QString>> defaults;
+    QHash<QString, std::optional<Application>> applicationsAt;
+
+private:
+    static QByteArray currentEnvironment();
+    void start();
+
+    bool m_checkedInHold = false;
+    QByteArray m_environment;
+    FileStamps m_stamps;
+    DesktopFileLocator m_locator{QStringList()};
+    QList<XdgDirectories::Place> m_places;
+    QStringList m_desktops;
+    QStringList m_dataDirs;
+    std::unique_ptr<DesktopLinkStore> m_store;
+    QHash<QString, std::optional<DesktopFileLocator::Resolved>> m_resolved;
+    QHash<QString, MimeAssociations> m_associations;
+    QHash<QString, QStringList> m_associated;
+    QHash<QString, std::optional<DesktopEntry>> m_entries;
+};
+
+// Everything the folders, the desktop and the program search depend on.
+QByteArray FreedesktopHandlerDatabase::Reading::currentEnvironment()
+{
+    QByteArray key = "\n";
+    for (const char *name : {"HOME", "XDG_CONFIG_HOME", "XDG_CONFIG_DIRS", "XDG_DATA_HOME",
+                             "XDG_DATA_DIRS", "XDG_CURRENT_DESKTOP", "PATH"})
+        key += (qEnvironmentVariableIsSet(name) ? "=" + qgetenv(name) : QByteArray()) + '\n';
+    return key;
+}
+
+void FreedesktopHandlerDatabase::Reading::refresh()
+{
+    if (holds > 0 && m_checkedInHold)
+        return;
+    m_checkedInHold = holds > 0;
+    const QByteArray environment = currentEnvironment();
+    if (environment == m_environment && m_stamps.unchanged())
+        return;
+    m_environment = environment;
+    start();
+}
+
+// Notes the lists, the application folders (whose entries come and go by their listing),
+// the desktop's own store and the AppStream folders before anything of them is read.
+void FreedesktopHandlerDatabase::Reading::start()
+{
+    m_stamps.clear();
+    applications.clear();
+    defaults.clear();
+    applicationsAt.clear();
+    m_resolved.clear();
+    m_associations.clear();
+    m_associated.clear();
+    m_entries.clear();
+    m_places = XdgDirectories::mimeappsPlaces();
+    m_desktops = XdgDirectories::currentDesktops();
+    m_dataDirs = XdgDirectories::allDataDirs();
+    m_store = DesktopLinkStore::current();
+    for (const XdgDirectories::Place &place : std::as_const(m_places)) {
+        if (place.holdsApplications) {
+            note(place.path);
+            note(place.path + QStringLiteral("/defaults.list"));
+            note(place.path + QStringLiteral("/mimeinfo.cache"));
+        }
+        note(place.path + QStringLiteral("/mimeapps.list"));
+        for (const QString &desktop : std::as_const(m_desktops))
+            note(place.path + u'/' + desktop + QStringLiteral("-mimeapps.list"));
+    }
+    if (m_store) {
+        for (const QString &file : m_store->files())
+            note(file);
+    }
+    for (const QString &folder : AppStreamVersion::folders(m_dataDirs))
+        note(folder);
+    m_locator = DesktopFileLocator(XdgDirectories::applicationsDirs(),
+                                   [this](const QString &path) { note(path); });
+}
+
+std::optional<DesktopFileLocator::Resolved>
+FreedesktopHandlerDatabase::Reading::resolve(const QString &desktopId)
+{
+    auto it = m_resolved.constFind(desktopId);
+    if (it == m_resolved.cend())
+        it = m_resolved.insert(desktopId, m_locator.resolve(desktopId));
+    return *it;
+}
+
+const MimeAssociations &FreedesktopHandlerDatabase::Reading::associations(const QString &mimeType)
+{
+    auto it = m_associations.find(mimeType);
+    if (it == m_associations.end())
+        it =
+            m_associations.insert(mimeType, MimeAssociations::load(mimeType, m_places, m_desktops));
+    return *it;
+}
+
+const QStringList &FreedesktopHandlerDatabase::Reading::associated(const QString &mimeType)
+{
+    auto it = m_associated.find(mimeType);
+    if (it == m_associated.end())
+        it = m_associated.insert(mimeType, associations(mimeType).associated(m_locator));
+    return *it;
+}
+
+std::optional<DesktopEntry> FreedesktopHandlerDatabase::Reading::entryAt(const QString &path)
+{
+    auto it = m_entries.constFind(path);
+    if (it == m_entries.cend()) {
+        note(path);
+        it = m_entries.insert(path, DesktopEntry::read(path));
+    }
+    return *it;
+}
+
+FreedesktopHandlerDatabase::FreedesktopHandlerDatabase() : m_reading(std::make_unique<Reading>()) {}
+
+FreedesktopHandlerDatabase::~FreedesktopHandlerDatabase() = default;
+
+std::shared_ptr<void> FreedesktopHandlerDatabase::holdReading() const
+{
+    const QMutexLocker locker(&m_reading->mutex);
+    ++m_reading->holds;
+    return std::shared_ptr<void>(nullptr, [reading = m_reading.get()](void *) {
+        const QMutexLocker locker(&reading->mutex);
+        --reading->holds;
+    });
+}
+
 namespace {
 
 // The desktop's own setting goes first where the desktop decides the scheme by it.
-std::optional<QString> storeChoice(const QString &scheme, const DesktopFileLocator &locator,
-                                   const MimeAssociations &associations)
+std::optional<QString> storeChoice(const QString &scheme, const DesktopLinkStore *store,
+                                   const DesktopFileLocator &locator,
+                                   const QStringList &handlingIds)
 {
-    const auto store = DesktopLinkStore::current();
     if (!store || !store->decides(scheme))
         return std::nullopt;
-    return store->choice(scheme, locator,
-                         associations.explicitDefaults() + associations.associated(locator));
+    return store->choice(scheme, locator, handlingIds);
 }
 
 } // namespace
@@ -135,11 +282,17 @@ QStringList FreedesktopHandlerDatabase::applicationsForScheme(const QString &sch
     const QString mimeType = mimeTypeForScheme(scheme);
     if (mimeType.isEmpty())
         return {};
-    const DesktopFileLocator locator = currentLocator();
-    const MimeAssociations associations = associationsFor(mimeType);
+    Reading &reading = *m_reading;
+    const QMutexLocker locker(&reading.mutex);
+    reading.refresh();
+    if (const auto kept = reading.applications.constFind(mimeType);
+        kept != reading.applications.cend())
+        return *kept;
+    const QStringList explicitDefaults = reading.associations(mimeType).explicitDefaults();
+    const QStringList &associated = reading.associated(mimeType);
     QStringList locations;
-    for (const QString &id : associations.explicitDefaults()) {
-        if (const auto resolved = locator.resolve(id)) {
+    for (const QString &id : explicitDefaults) {
+        if (const auto resolved = reading.resolve(id)) {
             locations.append(resolved->path);
             break;
         }
@@ -147,8 +300,8 @@ QStringList FreedesktopHandlerDatabase::applicationsForScheme(const QString &sch
     // GLib lists an association only when its entry is not Hidden, though a Hidden entry
     // may still be the default (above, or the first association below).
     bool defaultFound = !locations.isEmpty();
-    for (const QString &id : associations.associated(locator)) {
-        const auto resolved = locator.resolve(id);
+    for (const QString &id : associated) {
+        const auto resolved = reading.resolve(id);
         if (!resolved || locations.contains(resolved->path))
             continue;
         if (!defaultFound) {
@@ -158,10 +311,12 @@ QStringList FreedesktopHandlerDatabase::applicationsForScheme(const QString &sch
             locations.append(resolved->path);
         }
     }
-    if (const auto chosen = storeChoice(scheme, locator, associations)) {
+    if (const auto chosen = storeChoice(scheme, reading.store(), reading.locator(),
+                                        explicitDefaults + associated)) {
         locations.removeAll(*chosen);
         locations.prepend(*chosen);
     }
+    reading.applications.insert(mimeType, locations);
     return locations;
 }
 
@@ -175,16 +330,33 @@ FreedesktopHandlerDatabase::defaultApplicationForScheme(const QString &scheme) c
     const QString mimeType = mimeTypeForScheme(scheme);
     if (mimeType.isEmpty())
         return std::nullopt;
-    const DesktopFileLocator locator = currentLocator();
-    const MimeAssociations associations = associationsFor(mimeType);
-    if (const auto chosen = storeChoice(scheme, locator, associations))
-        return chosen;
-    for (const QString &id : associations.explicitDefaults()) {
-        if (const auto resolved = locator.resolve(id))
+    Reading &reading = *m_reading;
+    const QMutexLocker locker(&reading.mutex);
+    reading.refresh();
+    auto kept = reading.defaults.constFind(mimeType);
+    if (kept == reading.defaults.cend())
+        kept = reading.defaults.insert(mimeType, findDefault(scheme, mimeType));
+    return *kept;
+}
+
+std::optional<QString> FreedesktopHandlerDatabase::findDefault(const QString &scheme,
+                                                               const QString &mimeType) const
+{
+    Reading &reading = *m_reading;
+    const QStringList explicitDefaults = reading.associations(mimeType).explicitDefaults();
+    // The association list is long and only read when no listed default resolves.
+    const auto associated = [&]() -> const QStringList & { return reading.associated(mimeType); };
+    if (reading.store() && reading.store()->decides(scheme)) {
+        if (const auto chosen = storeChoice(scheme, reading.store(), reading.locator(),
+                                            explicitDefaults + associated()))
+            return chosen;
+    }
+    for (const QString &id : explicitDefaults) {
+        if (const auto resolved = reading.resolve(id))
             return resolved->path;
     }
-    for (const QString &id : associations.associated(locator)) {
-        if (const auto resolved = locator.resolve(id))
+    for (const QString &id : associated()) {
+        if (const auto resolved = reading.resolve(id))
             return resolved->path;
     }
     return std::nullopt;
@@ -195,8 +367,10 @@ FreedesktopHandlerDatabase::locationForIdentifier(const QString &identifier) con
 {
     if (!isIdentifier(identifier))
         return std::nullopt;
+    const QMutexLocker locker(&m_reading->mutex);
+    m_reading->refresh();
     // A Hidden entry counts: GLib still opens URLs with it when a list names it as default.
-    const auto resolved = currentLocator().resolve(identifier + suffix);
+    const auto resolved = m_reading->resolve(identifier + suffix);
     if (!resolved)
         return std::nullopt;
     return resolved->path;
@@ -208,15 +382,28 @@ FreedesktopHandlerDatabase::applicationAt(const QString &location) const
     // A program the desktop's setting runs without an entry: known by that name alone.
     if (location.startsWith(u'!'))
         return Application{location, std::nullopt, std::nullopt};
-    const auto entry = DesktopEntry::read(location);
-    if (!entry || !entry->isValid())
-        return std::nullopt;
-    QString desktopId = currentLocator().desktopIdOf(location);
-    if (desktopId.isEmpty())
-        desktopId = QFileInfo(location).fileName();
-    const QString identifier = stripSuffix(desktopId);
-    return Application{identifier, entry->name(),
-                       AppStreamVersion::find(identifier, XdgDirectories::allDataDirs())};
+    Reading &reading = *m_reading;
+    const QMutexLocker locker(&reading.mutex);
+    reading.refresh();
+    auto kept = reading.applicationsAt.constFind(location);
+    if (kept != reading.applicationsAt.cend())
+        return *kept;
+    std::optional<Application> application;
+    const auto entry = reading.entryAt(location);
+    if (entry && entry->isValid()) {
+        QString desktopId = reading.locator().desktopIdOf(location);
+        if (desktopId.isEmpty())
+            desktopId = QFileInfo(location).fileName();
+        const QString identifier = stripSuffix(desktopId);
+        const QString appStream = AppStreamVersion::path(identifier, reading.dataDirs());
+        if (!appStream.isEmpty())
+            reading.note(appStream);
+        application =
+            Application{identifier, entry->name(),
+                        appStream.isEmpty() ? std::nullopt : AppStreamVersion::readFile(appStream)};
+    }
+    reading.applicationsAt.insert(location, application);
+    return application;
 }
 
 QString FreedesktopHandlerDatabase::displayNameAtPath(const QString &path) const
@@ -233,11 +420,16 @@ int FreedesktopHandlerDatabase::setDefaultHandler(const QString &scheme, const Q
     if (mimeType.isEmpty() || !isIdentifier(identifier))
         return InvalidArgument;
     const QString desktopId = identifier + suffix;
-    const auto resolved = currentLocator().resolve(desktopId);
+    const auto resolved = DesktopFileLocator(XdgDirectories::applicationsDirs()).resolve(desktopId);
     if (!resolved)
         return NotInstalled;
 
     const QMutexLocker locker(&writeLock);
+    // What was read before the write is not asked again, even under a hold.
+    const auto forget = qScopeGuard([this] {
+        const QMutexLocker readingLocker(&m_reading->mutex);
+        m_reading->forget();
+    });
     // Where the desktop decides by its own setting, that is written first; when it can't
     // name the program, nothing is written.
     if (const auto store = DesktopLinkStore::current(); store && store->decides(scheme)) {
