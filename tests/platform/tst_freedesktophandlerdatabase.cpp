@@ -7,6 +7,8 @@
 #include <QSet>
 #include <QTest>
 
+#include <cstdio>
+
 // Every read is checked against GIO's own answer (`gio mime`) on the same tree.
 class TestFreedesktopHandlerDatabase : public QObject {
     Q_OBJECT
@@ -112,6 +114,43 @@ private slots:
                    "[Default Applications]\nx-scheme-handler/https=web.desktop\n");
         compareWithGio(QStringLiteral("https"));
         QCOMPARE(db.defaultApplicationForScheme(QStringLiteral("https")), upper);
+    }
+
+    // Answers are kept between calls; the next call after a change must not use them.
+    void aChangeIsSeenOnTheNextCall()
+    {
+        XdgTree tree;
+        installWeb(tree, "share2/applications", {"alpha", "beta"});
+        const auto setDefault = [](const char *id) -> QByteArray {
+            return "[Default Applications]\nx-scheme-handler/https=" + QByteArray(id) + "\n";
+        };
+        tree.write(QStringLiteral("config/mimeapps.list"), setDefault("alpha.desktop"));
+        QCOMPARE(defaultId("https"), QStringLiteral("alpha.desktop"));
+        QCOMPARE(defaultId("https"), QStringLiteral("alpha.desktop"));
+
+        // Replaced by rename, as xdg-mime writes it.
+        tree.write(QStringLiteral("config/mimeapps.list.new"), setDefault("beta.desktop"));
+        QVERIFY(
+            std::rename(QFile::encodeName(tree.path(QStringLiteral("config/mimeapps.list.new"))),
+                        QFile::encodeName(tree.path(QStringLiteral("config/mimeapps.list"))))
+            == 0);
+        QCOMPARE(defaultId("https"), QStringLiteral("beta.desktop"));
+
+        // Edited in place in the same second, to the same size.
+        {
+            const auto hold = db.holdReading();
+            QCOMPARE(defaultId("https"), QStringLiteral("beta.desktop"));
+            tree.write(QStringLiteral("config/mimeapps.list"), setDefault("alph.desktop"));
+            tree.entry(QStringLiteral("share2/applications"), QStringLiteral("alph.desktop"), {},
+                       {}, "Renamed");
+        }
+        QCOMPARE(defaultId("https"), QStringLiteral("alph.desktop"));
+        // And an entry's own text.
+        tree.entry(QStringLiteral("share2/applications"), QStringLiteral("alph.desktop"), {}, {},
+                   "Named Again");
+        QCOMPARE(
+            db.applicationAt(tree.path(QStringLiteral("share2/applications/alph.desktop")))->name,
+            QStringLiteral("Named Again"));
     }
 
     void unusableEntriesAreSkipped_data()

@@ -120,12 +120,26 @@ public:
     {
         m_environment.clear();
         m_checkedInHold = false;
+        m_unnoted = false;
     }
 
     const DesktopFileLocator &locator() const { return m_locator; }
     const QStringList &dataDirs() const { return m_dataDirs; }
     const DesktopLinkStore *store() const { return m_store.get(); }
-    void note(const QString &path) { m_stamps.note(path); }
+    // Under a hold nothing is noted, and what was read is dropped when the last hold ends:
+    // one picture costs no look at the files beyond reading them.
+    void note(const QString &path)
+    {
+        if (holds > 0)
+            m_unnoted = true;
+        else
+            m_stamps.note(path);
+    }
+    void release()
+    {
+        if (--holds == 0 && m_unnoted)
+            forget();
+    }
 
     std::optional<DesktopFileLocator::Resolved> resolve(const QString &desktopId);
     const MimeAssociations &associations(const QString &mimeType);
@@ -142,6 +156,7 @@ private:
     void start();
 
     bool m_checkedInHold = false;
+    bool m_unnoted = false;
     QByteArray m_environment;
     FileStamps m_stamps;
     DesktopFileLocator m_locator{QStringList()};
@@ -259,7 +274,7 @@ std::shared_ptr<void> FreedesktopHandlerDatabase::holdReading() const
     ++m_reading->holds;
     return std::shared_ptr<void>(nullptr, [reading = m_reading.get()](void *) {
         const QMutexLocker locker(&reading->mutex);
-        --reading->holds;
+        reading->release();
     });
 }
 
