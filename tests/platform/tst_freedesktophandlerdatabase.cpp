@@ -60,16 +60,11 @@ private:
     }
 
 private slots:
-    void emptyTreeHasNoHandler()
-    {
-        XdgTree tree;
-        tree.updateCaches();
-        compareWithGio(QStringLiteral("https"));
-    }
-
     void listsTakePrecedenceByPlace()
     {
         XdgTree tree;
+        tree.updateCaches();
+        compareWithGio(QStringLiteral("https")); // none at all
         installWeb(tree, "share2/applications", {"alpha", "beta", "gamma", "delta"});
         tree.write(QStringLiteral("share1/applications/mimeapps.list"),
                    "[Default Applications]\nx-scheme-handler/https=delta.desktop\n");
@@ -97,7 +92,9 @@ private slots:
         QCOMPARE(defaultId("HTTPS"), QStringLiteral("alpha.desktop"));
     }
 
-    void higherApplicationsDirectoryOwnsTheId()
+    // A desktop id belongs to the highest applications directory that has it; an entry in a
+    // subdirectory is known by its path, dashes for slashes.
+    void desktopIds()
     {
         XdgTree tree;
         tree.entry(QStringLiteral("share2/applications"), QStringLiteral("web.desktop"),
@@ -114,6 +111,19 @@ private slots:
                    "[Default Applications]\nx-scheme-handler/https=web.desktop\n");
         compareWithGio(QStringLiteral("https"));
         QCOMPARE(db.defaultApplicationForScheme(QStringLiteral("https")), upper);
+
+        const QString nested = tree.entry(QStringLiteral("share1/applications/kde4"),
+                                          QStringLiteral("foo.desktop"), web.toByteArray());
+        tree.entry(QStringLiteral("share1/applications"), QStringLiteral("kde4-bar.desktop"),
+                   web.toByteArray());
+        tree.updateCaches();
+        compareWithGio(QStringLiteral("https"));
+        tree.write(QStringLiteral("config/mimeapps.list"),
+                   "[Default Applications]\nx-scheme-handler/https=kde4-foo.desktop\n");
+        compareWithGio(QStringLiteral("https"));
+        QCOMPARE(db.defaultApplicationForScheme(QStringLiteral("https")), nested);
+        QCOMPARE(db.locationForIdentifier(QStringLiteral("kde4-foo")), nested);
+        QCOMPARE(db.applicationAt(nested)->identifier, QStringLiteral("kde4-foo"));
     }
 
     // Answers are kept between calls; the next call after a change must not use them.
@@ -313,23 +323,6 @@ private slots:
         compareWithGio(QStringLiteral("https"));
         compareWithGio(QStringLiteral("http"));
         QCOMPARE(defaultId("https"), QStringLiteral("alpha.desktop"));
-    }
-
-    void entriesInSubdirectories()
-    {
-        XdgTree tree;
-        const QString nested = tree.entry(QStringLiteral("share1/applications/kde4"),
-                                          QStringLiteral("foo.desktop"), web.toByteArray());
-        tree.entry(QStringLiteral("share1/applications"), QStringLiteral("kde4-bar.desktop"),
-                   web.toByteArray());
-        tree.updateCaches();
-        compareWithGio(QStringLiteral("https"));
-        tree.write(QStringLiteral("config/mimeapps.list"),
-                   "[Default Applications]\nx-scheme-handler/https=kde4-foo.desktop\n");
-        compareWithGio(QStringLiteral("https"));
-        QCOMPARE(db.defaultApplicationForScheme(QStringLiteral("https")), nested);
-        QCOMPARE(db.locationForIdentifier(QStringLiteral("kde4-foo")), nested);
-        QCOMPARE(db.applicationAt(nested)->identifier, QStringLiteral("kde4-foo"));
     }
 
     void realEntries()

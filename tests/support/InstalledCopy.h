@@ -1,6 +1,7 @@
 #pragma once
 
-#include <QProcess>
+#include "ProgramRun.h"
+
 #include <QString>
 #include <QTemporaryDir>
 
@@ -10,13 +11,12 @@ class InstalledCopy {
 public:
     explicit InstalledCopy(const QString &buildDir)
     {
-        QProcess install;
-        install.setProcessChannelMode(QProcess::MergedChannels);
-        install.start(QStringLiteral("cmake"), {QStringLiteral("--install"), buildDir,
-                                                QStringLiteral("--prefix"), m_prefix.path()});
-        m_installed = install.waitForFinished(120000)
-                      && install.exitStatus() == QProcess::NormalExit && install.exitCode() == 0;
-        m_log = install.readAll();
+        const ProgramRun install = runProgram(
+            QStringLiteral("cmake"),
+            {QStringLiteral("--install"), buildDir, QStringLiteral("--prefix"), m_prefix.path()},
+            120000, true);
+        m_installed = install.succeeded();
+        m_log = install.out;
     }
 
     bool isInstalled() const { return m_installed; }

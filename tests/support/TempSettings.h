@@ -2,6 +2,7 @@
 
 #include "core/settings/SettingsStore.h"
 
+#include <QFile>
 #include <QTemporaryDir>
 
 #include <memory>
@@ -20,17 +21,13 @@ public:
         m_store = std::make_unique<SettingsStore>(path());
         return *m_store;
     }
-    QByteArray fileBytes() const;
+    QByteArray fileBytes() const
+    {
+        QFile file(path());
+        return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+    }
 
 private:
     QTemporaryDir m_dir;
     std::unique_ptr<SettingsStore> m_store;
 };
-
-#include <QFile>
-
-inline QByteArray TempSettings::fileBytes() const
-{
-    QFile file(path());
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
-}

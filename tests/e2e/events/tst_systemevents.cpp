@@ -6,6 +6,7 @@
 #include "platform/freedesktop/FreedesktopSystemEvents.h"
 
 #include <QDBusConnectionInterface>
+#include <QScopeGuard>
 #include <QSignalSpy>
 #include <QTest>
 
@@ -93,6 +94,10 @@ private Q_SLOTS:
         FakeLogind logind(m_buses->systemAddress());
         QDBusConnection saver = screenSaverBus();
         QVERIFY(saver.registerService(QStringLiteral("org.freedesktop.ScreenSaver")));
+        const auto cleanup = qScopeGuard([&] {
+            saver.unregisterService(QStringLiteral("org.freedesktop.ScreenSaver"));
+            QDBusConnection::disconnectFromBus(QStringLiteral("screensaver"));
+        });
         logind.setLocked(true);
         FreedesktopSystemEvents events;
         QCOMPARE(events.unlockSource(), FreedesktopSystemEvents::UnlockSource::screenSaver);
@@ -109,9 +114,6 @@ private Q_SLOTS:
         QVERIFY(delivered(saver, QDBusConnection::sessionBus()));
         QVERIFY(delivered(logind));
         QCOMPARE(unlocks.count(), 1);
-
-        saver.unregisterService(QStringLiteral("org.freedesktop.ScreenSaver"));
-        QDBusConnection::disconnectFromBus(QStringLiteral("screensaver"));
     }
 
     void withoutAScreenSaverTheSessionLockHintIsWatched()
