@@ -48,17 +48,6 @@ QJsonObject systemProps(const QJsonObject &more = {})
 class TelemetryTest : public QObject {
     Q_OBJECT
 
-    // The guards report through the production telemetry, to the loopback ingestion.
-    struct ReportingWorld : GuardWorld {
-        AptabaseTelemetry aptabase;
-        GuardEnvironment environment()
-        {
-            GuardEnvironment env = GuardWorld::environment();
-            env.telemetry = &aptabase;
-            return env;
-        }
-    };
-
     Latitude m_machine;
 
 private Q_SLOTS:
@@ -70,9 +59,13 @@ private Q_SLOTS:
     void firstLaunchAndChangesOfDefaultWithTheirAlerts()
     {
         LoopbackAnalytics ingestion;
-        ReportingWorld world;
-        BrowserManager browser(world.environment());
-        EmailClientManager email(world.environment());
+        // The guards report through the production telemetry, to the loopback ingestion.
+        GuardWorld world;
+        AptabaseTelemetry aptabase;
+        GuardEnvironment environment = world.environment();
+        environment.telemetry = &aptabase;
+        BrowserManager browser(environment);
+        EmailClientManager email(environment);
         Events firstLaunch;
         for (const QString role : {"browser", "email"}) {
             firstLaunch.append(
