@@ -198,9 +198,12 @@ private Q_SLOTS:
             return blobOf({record(2, "good"), bad, record(1, "good too")});
         };
         QTest::newRow("type mail") << withBad("type", "mail");
+        QTest::newRow("type upper case") << withBad("type", "BROWSER");
         QTest::newRow("no timestamp") << withBad("timestamp", QJsonValue::Undefined);
         QTest::newRow("id in braces") << withBad("id", QString("{" + newId() + "}"));
+        QTest::newRow("id not hex") << withBad("id", newId().replace(0, 1, "G"));
         QTest::newRow("timestamp as text") << withBad("timestamp", "2026-03-14T10:00:00Z");
+        QTest::newRow("message a number") << withBad("message", 42);
         QTest::newRow("record not an object") << blobOf({record(2), "record"});
         QTest::newRow("truncated") << blobOf({record(2)}).chopped(3);
         QTest::newRow("timestamp out of range")

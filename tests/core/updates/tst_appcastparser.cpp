@@ -89,6 +89,8 @@ private slots:
         row("element alone, trimmed", item(version("\n\t 1.2 \u00a0\n")), found("1.2"));
         row("attribute untrimmed", item(enclosure(" 7 ")), found(" 7 "));
         row("empty attribute still overwrites", item(version("1.2") + enclosure("")), found(""));
+        row("enclosure outside item counts",
+            feed("<item>" + enclosure("1") + "</item>" + enclosure("5")), found("5"));
         row("enclosure outside item, wiped by next item",
             feed(enclosure("5") + "<item><title>x</title></item>"), found(""));
         row("link followed by newline is emptied", item(link("http://h/n") + "\n"),
