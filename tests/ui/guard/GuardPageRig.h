@@ -81,8 +81,6 @@ struct GuardPageRig : GuardPageTree, ShellWorld {
                     return timer;
         return nullptr;
     }
-
-    QString text(const char *key) const { return language.localizedString(QLatin1String(key)); }
 };
 
 // The page's control of that object name; the test stops if there is none.

@@ -79,6 +79,7 @@ struct ShellWorld {
         this->language.setCurrentLanguage(language);
         world.timers.fire(std::chrono::milliseconds(50));
     }
+    QString text(const char *key) const { return language.localizedString(QLatin1String(key)); }
 
 private:
     static void set(HandlerGuard &guard, Mode mode, const HandlerRecord &current,
