@@ -1,13 +1,9 @@
-#include "core/i18n/LanguageManager.h"
 #include "ui/Appearance.h"
 #include "ui/about/AboutView.h"
 #include "ui/widgets/RowButton.h"
 
-#include "ConsoleCapture.h"
-#include "FakeClock.h"
-#include "FakeTimerFactory.h"
 #include "PageChecks.h"
-#include "TempSettings.h"
+#include "ShellWorld.h"
 #include "UrlCatcher.h"
 
 #include <QAccessible>
@@ -15,33 +11,21 @@
 #include <QDesktopServices>
 #include <QTest>
 
-using namespace std::chrono_literals;
-
 namespace {
 
 const AboutView::Links links{QUrl(QStringLiteral("http://127.0.0.1:9/")),
                              QUrl(QStringLiteral("mailto:support@localhost")),
                              QUrl(QStringLiteral("http://127.0.0.1:9/donate"))};
 
-struct Rig {
-    ConsoleCapture console;
-    TempSettings settings;
-    FakeTimerFactory timers;
-    FakeClock clock{QDateTime(QDate(2026, 3, 14), QTime(10, 0))};
-    LanguageManager language{settings.store(), timers, {}};
+struct Rig : ShellWorld {
     int feedbackRequests = 0;
 
     std::unique_ptr<AboutView> view(const QByteArray &calendar = "en_GB")
     {
         auto about = std::make_unique<AboutView>(
-            language, clock, [this] { ++feedbackRequests; }, nullptr, links, calendar);
+            language, world.clock, [this] { ++feedbackRequests; }, nullptr, links, calendar);
         about->show();
         return QTest::qWaitForWindowExposed(about.get()) ? std::move(about) : nullptr;
-    }
-    void switchLanguage(AppLanguage to)
-    {
-        language.setCurrentLanguage(to);
-        timers.fire(50ms);
     }
 };
 
@@ -72,7 +56,7 @@ private Q_SLOTS:
             QCOMPARE(view->copyrightLine()->text(), expected.line);
         }
         auto view = rig.view("th_TH");
-        rig.clock.set(QDateTime(QDate(2027, 1, 2), QTime(9, 0)));
+        rig.world.clock.set(QDateTime(QDate(2027, 1, 2), QTime(9, 0)));
         rig.switchLanguage(AppLanguage::chinese);
         QCOMPARE(view->copyrightLine()->text(), QStringLiteral("版权所有 © 2570"));
     }

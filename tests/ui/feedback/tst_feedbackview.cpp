@@ -1,17 +1,12 @@
 #include "core/feedback/UserPerceivedText.h"
-#include "core/i18n/LanguageManager.h"
 #include "ui/feedback/FeedbackTagButton.h"
 #include "ui/feedback/FeedbackView.h"
 #include "ui/feedback/MoodButton.h"
 
-#include "ConsoleCapture.h"
-#include "FakeTimerFactory.h"
 #include "InstantAnimations.h"
 #include "LoopbackIngestion.h"
 #include "PageChecks.h"
-#include "RecordingTelemetry.h"
-#include "ScriptedPrompter.h"
-#include "TempSettings.h"
+#include "ShellWorld.h"
 
 #include <QApplication>
 #include <QClipboard>
@@ -41,16 +36,10 @@ protected:
     }
 };
 
-// English texts, a feedback server on loopback and the page over them, shown; alerts are
-// recorded instead of shown and wait for an answer.
-struct Rig {
-    ConsoleCapture console;
-    TempSettings settings;
-    FakeTimerFactory timers;
-    LanguageManager language{settings.store(), timers, {}};
+// A feedback server on loopback and the page over it, shown; alerts are recorded instead of
+// shown and wait for an answer.
+struct Rig : ShellWorld {
     LoopbackIngestion server;
-    RecordingTelemetry telemetry;
-    ScriptedPrompter alerts;
     CountingNetwork network;
     std::unique_ptr<FeedbackView> view;
 
@@ -60,7 +49,7 @@ struct Rig {
         options.endpointURL = QUrl(server.baseUrl() + u"/api/feedback");
         options.apiKey = apiKey;
         options.network = &network;
-        view = std::make_unique<FeedbackView>(options, language, alerts, telemetry);
+        view = std::make_unique<FeedbackView>(options, language, world.alerts, world.telemetry);
         view->resize(560, 760);
         view->show();
         static_cast<void>(QTest::qWaitForWindowExposed(view.get()));
@@ -68,7 +57,6 @@ struct Rig {
 
     QPlainTextEdit *edit() const { return view->textEdit(); }
     QString counter() const { return view->counter()->text(); }
-    QString text(const char *key) const { return language.localizedString(QLatin1String(key)); }
     // Types `text` as one key press, the way an input method delivers an emoji.
     void type(const QString &text) const
     {
@@ -186,18 +174,18 @@ private Q_SLOTS:
         QCOMPARE(rig.network.requests, 1);
         QVERIFY(QTest::qWaitFor([&] { return rig.server.requests.size() == 1; }, 3000));
         rig.server.release();
-        QVERIFY(QTest::qWaitFor([&] { return rig.alerts.isPresenting(); }, 3000));
+        QVERIFY(QTest::qWaitFor([&] { return rig.world.alerts.isPresenting(); }, 3000));
 
-        QCOMPARE(rig.alerts.shown().size(), 1);
-        QCOMPARE(rig.alerts.last().style, ModalPrompt::Style::informational);
-        QCOMPARE(rig.alerts.last().title, rig.text("feedback_sent_title"));
+        QCOMPARE(rig.world.alerts.shown().size(), 1);
+        QCOMPARE(rig.world.alerts.last().style, ModalPrompt::Style::informational);
+        QCOMPARE(rig.world.alerts.last().title, rig.text("feedback_sent_title"));
         check(true);
         QCOMPARE(send->text(), rig.text("feedback_send"));
         // A fresh form behind the alert.
         QCOMPARE(rig.counter(), QStringLiteral("0/1000"));
         QVERIFY(rig.view->tagButton(FeedbackTag::coolApp)->isSelected());
         QVERIFY(rig.view->moodButton(4)->isSelected() && !rig.view->moodButton(1)->isSelected());
-        QVERIFY(rig.alerts.answer(0));
+        QVERIFY(rig.world.alerts.answer(0));
         QVERIFY(!rig.view->form().showSuccessAlert());
     }
 
@@ -206,15 +194,15 @@ private Q_SLOTS:
         Rig rig(QString{});
         rig.click(rig.view->sendButton());
         rig.click(rig.view->sendButton());
-        QTRY_VERIFY(rig.alerts.isPresenting());
+        QTRY_VERIFY(rig.world.alerts.isPresenting());
         ScriptedPrompter::settle();
-        QCOMPARE(rig.alerts.shown().size(), 1);
-        QCOMPARE(rig.alerts.last().style, ModalPrompt::Style::warning);
-        QCOMPARE(rig.alerts.last().title, rig.text("feedback_error_title"));
-        QCOMPARE(rig.alerts.last().text, rig.text("feedback_error_message"));
-        QVERIFY(rig.alerts.answer(0));
+        QCOMPARE(rig.world.alerts.shown().size(), 1);
+        QCOMPARE(rig.world.alerts.last().style, ModalPrompt::Style::warning);
+        QCOMPARE(rig.world.alerts.last().title, rig.text("feedback_error_title"));
+        QCOMPARE(rig.world.alerts.last().text, rig.text("feedback_error_message"));
+        QVERIFY(rig.world.alerts.answer(0));
         rig.click(rig.view->sendButton());
-        QTRY_COMPARE(rig.alerts.shown().size(), 2);
+        QTRY_COMPARE(rig.world.alerts.shown().size(), 2);
         QVERIFY(rig.server.requests.isEmpty());
     }
 
@@ -222,7 +210,7 @@ private Q_SLOTS:
     {
         Rig rig;
         rig.language.setCurrentLanguage(AppLanguage::german);
-        rig.timers.fire(50ms);
+        rig.world.timers.fire(50ms);
         QCOMPARE(rig.edit()->placeholderText(), rig.text("feedback_text_placeholder"));
         QCOMPARE(rig.view->sendButton()->text(), rig.text("feedback_send"));
     }

@@ -1,5 +1,3 @@
-#include "core/changelog/LogManager.h"
-#include "core/i18n/LanguageManager.h"
 #include "ui/Appearance.h"
 #include "ui/log/ChangeLogEntryRow.h"
 #include "ui/log/LogView.h"
@@ -7,11 +5,7 @@
 #include "ui/widgets/SegmentedControl.h"
 #include "ui/widgets/SymbolLabel.h"
 
-#include "ConsoleCapture.h"
-#include "FakeClock.h"
-#include "FakeTimerFactory.h"
-#include "ScriptedPrompter.h"
-#include "TempSettings.h"
+#include "ShellWorld.h"
 
 #include <QAbstractButton>
 #include <QAccessible>
@@ -31,14 +25,8 @@ namespace {
 constexpr QSize pageSize(549, 550);
 
 // A page the size the settings window gives it, over a log of its own.
-struct Rig {
+struct Rig : ShellWorld {
     ConsoleCapture console;
-    TempSettings settings;
-    FakeTimerFactory timers;
-    FakeClock clock{QDateTime(QDate(2026, 3, 14), QTime(10, 0))};
-    LanguageManager language{settings.store(), timers, {}};
-    LogManager log{settings.store(), clock};
-    ScriptedPrompter prompter;
     std::unique_ptr<LogView> view;
 
     // Records `count` changes, one a minute, alternating browser and mail from a browser one.
@@ -46,15 +34,18 @@ struct Rig {
     {
         for (int i = 0; i < count; ++i) {
             if (i % 2 == 0 || !mailToo)
-                log.logBrowserChange(QStringLiteral("Firefox"), u"Browser " + QString::number(i));
+                world.log.logBrowserChange(QStringLiteral("Firefox"),
+                                           u"Browser " + QString::number(i));
             else
-                log.logEmailChange(QStringLiteral("Thunderbird"), u"Mail " + QString::number(i));
-            clock.advance(60);
+                world.log.logEmailChange(QStringLiteral("Thunderbird"),
+                                         u"Mail " + QString::number(i));
+            world.clock.advance(60);
         }
     }
     LogView &show()
     {
-        view = std::make_unique<LogView>(language, log, clock, timers, prompter);
+        view =
+            std::make_unique<LogView>(language, world.log, world.clock, world.timers, world.alerts);
         view->resize(pageSize);
         view->show();
         static_cast<void>(QTest::qWaitForWindowExposed(view.get()));
@@ -67,7 +58,6 @@ struct Rig {
             messages.append(row->messageLabel()->text());
         return messages;
     }
-    QString text(const char *key) const { return language.localizedString(QLatin1String(key)); }
 };
 
 QByteArray fileBytes(const QString &path)
@@ -108,7 +98,7 @@ private Q_SLOTS:
         QCOMPARE(newest->relativeTime()->text(), QStringLiteral("1 minute ago"));
 
         // The filter reads no store: a record logged meanwhile shows only after Refresh.
-        rig.log.logEmailChange(QStringLiteral("Thunderbird"), QStringLiteral("Evolution"));
+        rig.world.log.logEmailChange(QStringLiteral("Thunderbird"), QStringLiteral("Evolution"));
         view.setFilterType(LogView::LogFilterType::email);
         QVERIFY(view.emptyState() && view.rows().isEmpty());
         QTest::mouseClick(view.refreshButton(), Qt::LeftButton);
@@ -120,19 +110,19 @@ private Q_SLOTS:
 
         // The relative time keeps itself current; the message stays as it was stored.
         settle();
-        rig.clock.advance(3600);
-        QVERIFY(!rig.timers.active().isEmpty());
-        for (FakeTimer *timer : rig.timers.active())
+        rig.world.clock.advance(3600);
+        QVERIFY(!rig.world.timers.active().isEmpty());
+        for (FakeTimer *timer : rig.world.timers.active())
             timer->fire();
         QCOMPARE(view.rows().last()->relativeTime()->text(), QStringLiteral("1 hour ago"));
         rig.language.setCurrentLanguage(AppLanguage::german);
-        rig.timers.fire(50ms);
+        rig.world.timers.fire(50ms);
         QCOMPARE(view.refreshButton()->text(), QStringLiteral("Aktualisieren"));
         QCOMPARE(view.rows().first()->messageLabel()->text(),
                  QStringLiteral("Email client changed from Thunderbird to Evolution"));
 
         // An empty log, and showing the page again reads it again.
-        rig.log.clearAllLogs();
+        rig.world.log.clearAllLogs();
         view.hide();
         view.show();
         QVERIFY(view.emptyState());
@@ -171,7 +161,7 @@ private Q_SLOTS:
 
         rig.record(3);
         QTest::mouseClick(view.refreshButton(), Qt::LeftButton);
-        const QList<ChangeLogEntry> all = rig.log.getAllLogs();
+        const QList<ChangeLogEntry> all = rig.world.log.getAllLogs();
 
         // The filter as it stands when the dialog is accepted; a cancel writes nothing.
         QTest::mouseClick(view.exportButton(), Qt::LeftButton);
@@ -203,21 +193,21 @@ private Q_SLOTS:
         LogView &view = rig.show();
         view.setFilterType(LogView::LogFilterType::browser);
 
-        rig.prompter.answerNext(1);
+        rig.world.alerts.answerNext(1);
         QTest::mouseClick(view.clearButton(), Qt::LeftButton);
         settle();
-        const ModalPrompt &asked = rig.prompter.last();
+        const ModalPrompt &asked = rig.world.alerts.last();
         QCOMPARE(asked.title, rig.text("log_clear_confirm_title"));
         QCOMPARE(asked.buttons, (QStringList{rig.text("log_clear_confirm_button"),
                                              rig.text("log_clear_cancel_button")}));
         QCOMPARE(asked.style, ModalPrompt::Style::warning);
-        QCOMPARE(rig.log.getAllLogs().size(), 3);
+        QCOMPARE(rig.world.log.getAllLogs().size(), 3);
         QCOMPARE(view.rows().size(), 2);
 
-        rig.prompter.answerNext(0);
+        rig.world.alerts.answerNext(0);
         view.clearLogs();
         settle();
-        QVERIFY(rig.log.getAllLogs().isEmpty());
+        QVERIFY(rig.world.log.getAllLogs().isEmpty());
         QVERIFY(view.emptyState());
     }
 

@@ -49,11 +49,8 @@ private Q_SLOTS:
         QTest::keyClick(&toggle, Qt::Key_Space);
         QTest::mouseClick(&toggle, Qt::LeftButton);
         QVERIFY(!toggle.isChecked());
-    }
 
-    void switchIsAsTallAsACheckBox()
-    {
-        ToggleSwitch toggle;
+        // As tall as a check box, and wider than tall.
         QCheckBox box(QStringLiteral("x"));
         QVERIFY(qAbs(toggle.sizeHint().height() - box.sizeHint().height()) <= 2);
         QVERIFY(toggle.sizeHint().width() > toggle.sizeHint().height());
