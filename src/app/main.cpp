@@ -27,10 +27,10 @@ void write(FILE *stream, const QByteArray &bytes)
 }
 
 // `vandorel --status`: what the guards would see now, as JSON on standard output,
-// without writing anything or claiming the single-instance lock.
-int printStatus(int argc, char **argv)
+// without writing anything or claiming the single-instance lock. It needs no application
+// object: no event loop, and the locale Qt assumes (UTF-8) is the one it writes.
+int printStatus()
 {
-    QCoreApplication core(argc, argv);
     Console::toStandardError();
     SettingsStore settings(SettingsStore::defaultFilePath());
     const auto handlers = PlatformBackend::createHandlerDatabase();
@@ -62,7 +62,7 @@ int main(int argc, char **argv)
 {
     const CommandLine commandLine(argumentsOf(argc, argv));
     if (commandLine.mode() == CommandLine::Mode::Status)
-        return printStatus(argc, argv);
+        return printStatus();
     if (commandLine.mode() != CommandLine::Mode::Run)
         return answer(argc, argv, commandLine);
 
