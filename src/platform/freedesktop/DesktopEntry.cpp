@@ -1,8 +1,8 @@
 #include "platform/freedesktop/DesktopEntry.h"
 
 #include "platform/freedesktop/KeyFileScanner.h"
+#include "platform/freedesktop/WholeFile.h"
 
-#include <QFile>
 #include <QFileInfo>
 
 namespace {
@@ -68,10 +68,10 @@ std::optional<QString> firstShellWord(const QString &line)
 
 std::optional<DesktopEntry> DesktopEntry::read(const QString &path)
 {
-    QFile file(path);
-    if (!file.open(QIODevice::ReadOnly))
+    const auto content = WholeFile::read(path);
+    if (!content)
         return std::nullopt;
-    return parse(file.readAll());
+    return parse(*content);
 }
 
 DesktopEntry DesktopEntry::parse(QByteArrayView content)

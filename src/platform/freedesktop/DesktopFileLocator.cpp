@@ -2,37 +2,83 @@
 
 #include <QDir>
 #include <QDirIterator>
+#include <QFile>
 #include <QFileInfo>
+
+#include <dirent.h>
+#include <sys/stat.h>
 
 namespace {
 
 const QString suffix = QStringLiteral(".desktop");
 
-// `name` is what is left of the id below `dir`; each '-' may stand for a subdirectory.
-QString findBelow(const QString &dir, const QString &name,
-                  const DesktopFileLocator::Observer &observer)
+} // namespace
+
+DesktopFileLocator::DesktopFileLocator(QStringList applicationsDirs, Observer observer,
+                                       Lookup lookup)
+    : m_dirs(std::move(applicationsDirs)), m_observer(std::move(observer)), m_lookup(lookup)
 {
-    const QString direct = dir + u'/' + name;
-    if (QFileInfo(direct).isFile())
-        return direct;
+}
+
+// `name` is what is left of the id below `dir`; each '-' may stand for a subdirectory.
+QString DesktopFileLocator::findBelow(const QString &dir, const QString &name) const
+{
+    if (holds(dir, name, false))
+        return dir + u'/' + name;
     for (qsizetype dash = name.indexOf(u'-'); dash > 0; dash = name.indexOf(u'-', dash + 1)) {
-        const QString subdir = dir + u'/' + name.first(dash);
-        if (!QFileInfo(subdir).isDir())
+        if (!holds(dir, name.first(dash), true))
             continue;
-        if (observer)
-            observer(subdir);
-        const QString found = findBelow(subdir, name.sliced(dash + 1), observer);
+        const QString subdir = dir + u'/' + name.first(dash);
+        if (m_observer)
+            m_observer(subdir);
+        const QString found = findBelow(subdir, name.sliced(dash + 1));
         if (!found.isEmpty())
             return found;
     }
     return {};
 }
 
-} // namespace
-
-DesktopFileLocator::DesktopFileLocator(QStringList applicationsDirs, Observer observer)
-    : m_dirs(std::move(applicationsDirs)), m_observer(std::move(observer))
+// Whether the folder holds a file (or a folder) of that name, links followed.
+bool DesktopFileLocator::holds(const QString &dir, const QString &name, bool folder) const
 {
+    if (m_lookup == Lookup::byName) {
+        const QFileInfo info(dir + u'/' + name);
+        return folder ? info.isDir() : info.isFile();
+    }
+    auto listing = m_listings.constFind(dir);
+    if (listing == m_listings.cend())
+        listing = m_listings.insert(dir, list(dir));
+    return (folder ? listing->folders : listing->files).contains(QFile::encodeName(name));
+}
+
+// Files are kept only when they may be desktop entries.
+DesktopFileLocator::Listing DesktopFileLocator::list(const QString &dir)
+{
+    Listing listing;
+    const QByteArray path = QFile::encodeName(dir);
+    DIR *handle = opendir(path.constData());
+    if (!handle)
+        return listing;
+    while (const dirent *entry = readdir(handle)) {
+        const QByteArray name(entry->d_name);
+        if (name == "." || name == "..")
+            continue;
+        bool isFolder = entry->d_type == DT_DIR;
+        bool isFile = entry->d_type == DT_REG;
+        if (entry->d_type == DT_LNK || entry->d_type == DT_UNKNOWN) {
+            struct stat info {};
+            if (stat(QByteArray(path + '/' + name).constData(), &info) != 0)
+                continue;
+            isFolder = S_ISDIR(info.st_mode);
+            isFile = S_ISREG(info.st_mode);
+        }
+        if (isFolder)
+            listing.folders.insert(name);
+        else if (isFile && name.endsWith(".desktop"))
+            listing.files.insert(name);
+    }
+    closedir(handle);
+    return listing;
 }
 
 QString DesktopFileLocator::fileInDirectory(const QString &dir, const QString &desktopId)
@@ -44,7 +90,7 @@ QString DesktopFileLocator::findIn(const QString &dir, const QString &desktopId)
 {
     if (!desktopId.endsWith(suffix) || desktopId.contains(u'/') || desktopId.startsWith(u'.'))
         return {};
-    return findBelow(dir, desktopId, m_observer);
+    return findBelow(dir, desktopId);
 }
 
 bool DesktopFileLocator::isShadowed(const QString &desktopId, qsizetype index) const

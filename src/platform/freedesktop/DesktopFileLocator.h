@@ -2,6 +2,9 @@
 
 #include "platform/freedesktop/DesktopEntry.h"
 
+#include <QByteArray>
+#include <QHash>
+#include <QSet>
 #include <QString>
 #include <QStringList>
 
@@ -22,7 +25,12 @@ public:
     // folder of each program an entry names by its path.
     using Observer = std::function<void(const QString &path)>;
 
-    explicit DesktopFileLocator(QStringList applicationsDirs, Observer observer = {});
+    // How a name is looked for: a look at the path, or the folder's listing, read once for
+    // a locator asked about many names.
+    enum class Lookup { byName, byListing };
+
+    explicit DesktopFileLocator(QStringList applicationsDirs, Observer observer = {},
+                                Lookup lookup = Lookup::byName);
 
     const QStringList &directories() const { return m_dirs; }
 
@@ -42,9 +50,19 @@ public:
                                          const QStringList &preferredIds) const;
 
 private:
+    struct Listing {
+        QSet<QByteArray> files;
+        QSet<QByteArray> folders;
+    };
+
+    static Listing list(const QString &dir);
     QString findIn(const QString &dir, const QString &desktopId) const;
+    QString findBelow(const QString &dir, const QString &name) const;
+    bool holds(const QString &dir, const QString &name, bool folder) const;
     void observePrograms(const DesktopEntry &entry) const;
 
     QStringList m_dirs;
     Observer m_observer;
+    Lookup m_lookup;
+    mutable QHash<QString, Listing> m_listings;
 };

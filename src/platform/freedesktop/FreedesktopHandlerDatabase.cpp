@@ -19,6 +19,8 @@
 #include <QMutex>
 #include <QScopeGuard>
 
+#include <algorithm>
+
 namespace {
 
 const QString suffix = QStringLiteral(".desktop");
@@ -124,7 +126,8 @@ public:
     }
 
     const DesktopFileLocator &locator() const { return m_locator; }
-    const QStringList &dataDirs() const { return m_dataDirs; }
+    // The data dirs that have AppStream folders at all.
+    const QStringList &appStreamDirs() const { return m_appStreamDirs; }
     const DesktopLinkStore *store() const { return m_store.get(); }
     // Under a hold nothing is noted, and what was read is dropped when the last hold ends:
     // one picture costs no look at the files beyond reading them.
@@ -163,6 +166,7 @@ private:
     QList<XdgDirectories::Place> m_places;
     QStringList m_desktops;
     QStringList m_dataDirs;
+    QStringList m_appStreamDirs;
     std::unique_ptr<DesktopLinkStore> m_store;
     QHash<QString, std::optional<DesktopFileLocator::Resolved>> m_resolved;
     QHash<QString, MimeAssociations> m_associations;
@@ -224,8 +228,16 @@ void FreedesktopHandlerDatabase::Reading::start()
     }
     for (const QString &folder : AppStreamVersion::folders(m_dataDirs))
         note(folder);
-    m_locator = DesktopFileLocator(XdgDirectories::applicationsDirs(),
-                                   [this](const QString &path) { note(path); });
+    m_appStreamDirs.clear();
+    for (const QString &dir : std::as_const(m_dataDirs)) {
+        const QStringList folders = AppStreamVersion::folders({dir});
+        if (std::any_of(folders.cbegin(), folders.cend(),
+                        [](const QString &folder) { return QFileInfo(folder).isDir(); }))
+            m_appStreamDirs.append(dir);
+    }
+    m_locator = DesktopFileLocator(
+        XdgDirectories::applicationsDirs(), [this](const QString &path) { note(path); },
+        DesktopFileLocator::Lookup::byListing);
 }
 
 std::optional<DesktopFileLocator::Resolved>
@@ -410,7 +422,7 @@ FreedesktopHandlerDatabase::applicationAt(const QString &location) const
         if (desktopId.isEmpty())
             desktopId = QFileInfo(location).fileName();
         const QString identifier = stripSuffix(desktopId);
-        const QString appStream = AppStreamVersion::path(identifier, reading.dataDirs());
+        const QString appStream = AppStreamVersion::path(identifier, reading.appStreamDirs());
         if (!appStream.isEmpty())
             reading.note(appStream);
         application =

@@ -17,8 +17,19 @@ QByteArrayView trimmedEnd(QByteArrayView text)
     return text;
 }
 
+bool isAscii(QByteArrayView text)
+{
+    for (const char c : text) {
+        if (static_cast<unsigned char>(c) >= 0x80)
+            return false;
+    }
+    return true;
+}
+
 bool isUtf8(QByteArrayView text)
 {
+    if (isAscii(text))
+        return true;
     QStringDecoder decoder(QStringDecoder::Utf8);
     const QString decoded = decoder(text);
     return !decoder.hasError();
@@ -55,9 +66,18 @@ bool isGroupName(QByteArrayView name)
 // A locale suffix's characters: letters and digits of any script, '-', '_', '.', '@'.
 bool isLocale(QByteArrayView locale)
 {
+    const auto isSign = [](auto c) { return c == '-' || c == '_' || c == '.' || c == '@'; };
+    if (isAscii(locale)) {
+        for (const char c : locale) {
+            const char lower = char(c | 0x20);
+            if (!(c >= '0' && c <= '9') && !(lower >= 'a' && lower <= 'z') && !isSign(c))
+                return false;
+        }
+        return true;
+    }
     const QString text = QString::fromUtf8(locale);
     for (const char32_t c : text.toUcs4()) {
-        if (!QChar::isLetterOrNumber(c) && c != U'-' && c != U'_' && c != U'.' && c != U'@')
+        if (!QChar::isLetterOrNumber(c) && !isSign(c))
             return false;
     }
     return true;

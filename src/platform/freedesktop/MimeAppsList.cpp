@@ -1,15 +1,14 @@
 #include "platform/freedesktop/MimeAppsList.h"
 
 #include "platform/freedesktop/KeyFileScanner.h"
-
-#include <QFile>
+#include "platform/freedesktop/WholeFile.h"
 
 MimeAppsList MimeAppsList::read(const QString &path, const QString &mimeType)
 {
-    QFile file(path);
-    if (!file.open(QIODevice::ReadOnly))
+    const auto content = WholeFile::read(path);
+    if (!content)
         return {};
-    return parse(file.readAll(), mimeType);
+    return parse(*content, mimeType);
 }
 
 MimeAppsList MimeAppsList::parse(QByteArrayView content, const QString &mimeType)
