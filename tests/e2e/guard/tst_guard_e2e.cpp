@@ -17,12 +17,7 @@
 class GuardEndToEndTest : public QObject {
     Q_OBJECT
 
-    XdgTree *m_tree = nullptr;
-
-    void entry(const QString &id, const QByteArray &name, const QByteArray &mimeTypes)
-    {
-        m_tree->entry(QStringLiteral("share1/applications"), id + u".desktop", mimeTypes, {}, name);
-    }
+    std::unique_ptr<XdgTree> m_tree;
 
     // What another program does: xdg-mime writes the user's mimeapps.list.
     static bool xdgMimeDefault(const QString &id, const QStringList &schemes)
@@ -46,17 +41,13 @@ class GuardEndToEndTest : public QObject {
 private Q_SLOTS:
     void init()
     {
-        m_tree = new XdgTree;
-        const QByteArray web = "x-scheme-handler/http;x-scheme-handler/https;";
-        entry("firefox", "Firefox", web);
-        entry("chromium", "Chromium", web);
+        m_tree = std::make_unique<XdgTree>();
+        for (const char *name : {"Firefox", "Chromium"})
+            m_tree->entry("share1/applications", QString(name).toLower() + u".desktop",
+                          "x-scheme-handler/http;x-scheme-handler/https;", {}, name);
         m_tree->updateCaches();
     }
-    void cleanup()
-    {
-        delete m_tree;
-        m_tree = nullptr;
-    }
+    void cleanup() { m_tree.reset(); }
 
     // A hand edit left a line GLib refuses in the user's list: GIO reads none of it, so the
     // system's default stands; the guard sees that, and the change back takes.
