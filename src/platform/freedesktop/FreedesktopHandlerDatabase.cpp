@@ -235,9 +235,10 @@ void FreedesktopHandlerDatabase::Reading::start()
                         [](const QString &folder) { return QFileInfo(folder).isDir(); }))
             m_appStreamDirs.append(dir);
     }
+    // Listing the folders pays only for the many questions of one picture.
     m_locator = DesktopFileLocator(
         XdgDirectories::applicationsDirs(), [this](const QString &path) { note(path); },
-        DesktopFileLocator::Lookup::byListing);
+        holds > 0 ? DesktopFileLocator::Lookup::byListing : DesktopFileLocator::Lookup::byName);
 }
 
 std::optional<DesktopFileLocator::Resolved>
