@@ -41,18 +41,18 @@ bool sent(const AptabaseClient &client)
     return QTest::qWaitFor([&client] { return !client.dispatcher().isSending(); });
 }
 
-void track(AptabaseClient &client, int from, int to)
-{
-    for (int i = from; i < to; ++i)
-        client.trackEvent(QStringLiteral("e%1").arg(i));
-}
-
 QStringList names(int from, int to)
 {
     QStringList result;
     for (int i = from; i < to; ++i)
         result << QStringLiteral("e%1").arg(i);
     return result;
+}
+
+void track(AptabaseClient &client, int from, int to)
+{
+    for (const QString &name : names(from, to))
+        client.trackEvent(name);
 }
 
 bool flushAndWait(AptabaseClient &client)
@@ -110,13 +110,13 @@ private slots:
 
         QCOMPARE(server.problems, QStringList());
         QCOMPARE(server.requests.size(), 1);
-        const QJsonObject props =
-            LoopbackIngestion::events(server.requests[0])[0][QLatin1String("props")].toObject();
-        QCOMPARE(props[QLatin1String("plain")].toString(), QString(u'x').repeated(200));
-        QCOMPARE(props[QLatin1String("emoji")].toString(), a.repeated(199));
-        QCOMPARE(props[QLatin1String("mark")].toString(), a.repeated(198));
-        QCOMPARE(props[QLatin1String("short")].toString(), QStringLiteral("Web & Mail"));
-        QCOMPARE(props[QLatin1String("count")].toInt(), 7);
+        QCOMPARE(
+            LoopbackIngestion::events(server.requests[0])[0][QLatin1String("props")].toObject(),
+            QJsonObject({{"plain", QString(u'x').repeated(200)},
+                         {"emoji", a.repeated(199)},
+                         {"mark", a.repeated(198)},
+                         {"short", "Web & Mail"},
+                         {"count", 7}}));
     }
 
     // A client error drops the batch; a server error or a refused connection puts it back.

@@ -19,7 +19,7 @@ struct CatalogueEntry {
 
 // Grouped by where the texts show: intervals and snoozes, change alerts, update sheet,
 // feedback page, application menu and windows, tray panel, settings tabs, general page,
-// browser page, mail page, log page, about window.
+// what only the browser or the mail page shows, log page, about window.
 const char keyList[] =
     "interval_daily;interval_every_10_minutes;interval_every_5_minutes;interval_every_hour;"
     "interval_every_minute;interval_none;snooze_15_minutes;snooze_1_hour;snooze_30_minutes;"
@@ -28,16 +28,15 @@ const char keyList[] =
     "alert_email_changed_message %@ %@;alert_email_changed_title;update_available_message;"
     "update_available_title;update_brew_command_hint;update_brew_hint;update_copy_command;"
     "update_later_button;feedback_description;feedback_error_message;feedback_error_title;"
-    "feedback_question;feedback_send;feedback_sending;feedback_sent_message;"
-    "feedback_sent_title;feedback_tag_cool_app;feedback_tag_idea;feedback_tag_issue;"
-    "feedback_tag_label;feedback_tag_other;feedback_tag_translation;feedback_text_placeholder;"
-    "feedback_title;menu_item_about;menu_item_settings;window_about_title;"
-    "window_settings_title;menu_about;menu_quit;menu_settings;status_default_browser;"
-    "status_default_email;status_mismatch;status_none;status_not_protected;status_protected;"
-    "status_should_be %@;tab_browser;tab_email;tab_feedback;tab_general;tab_log;"
-    "general_appearance;general_appearance_dark;general_appearance_light;"
-    "general_appearance_system;general_buy_coffee;general_cancel;general_check_at_startup;"
-    "general_check_for_updates;general_colored_icon;general_delete_logs;"
+    "feedback_question;feedback_send;feedback_sending;feedback_sent_message;feedback_sent_title;"
+    "feedback_tag_cool_app;feedback_tag_idea;feedback_tag_issue;feedback_tag_label;"
+    "feedback_tag_other;feedback_tag_translation;feedback_text_placeholder;feedback_title;"
+    "menu_item_about;menu_item_settings;window_about_title;window_settings_title;menu_about;"
+    "menu_quit;menu_settings;status_default_browser;status_default_email;status_mismatch;"
+    "status_none;status_not_protected;status_protected;status_should_be %@;tab_browser;tab_email;"
+    "tab_feedback;tab_general;tab_log;general_appearance;general_appearance_dark;"
+    "general_appearance_light;general_appearance_system;general_buy_coffee;general_cancel;"
+    "general_check_at_startup;general_check_for_updates;general_colored_icon;general_delete_logs;"
     "general_delete_logs_confirm_button;general_delete_logs_confirm_message;"
     "general_delete_logs_confirm_title;general_description;general_feature_1;general_feature_2;"
     "general_feature_3;general_feature_4;general_feature_5;general_features_title;"
@@ -49,31 +48,21 @@ const char keyList[] =
     "general_reset_update_reminder_snooze;general_settings_title;general_support_description;"
     "general_support_title;general_update_check_interval;general_updates_title;"
     "update_interval_12h;update_interval_6h;update_interval_daily;update_interval_never;"
-    "update_interval_weekly;update_no_updates_message;update_no_updates_title;"
-    "browser_already_default;browser_bundle_id %@;browser_changes_detected;"
-    "browser_check_interval;browser_check_on_login;browser_check_on_unlock;"
-    "browser_check_on_wake;browser_current;browser_currently_snoozed;browser_enable_monitoring;"
-    "browser_event_monitoring_title;browser_last_change;browser_monitoring_title;"
-    "browser_never_changed;browser_no_browsers;browser_none;browser_none_detected;browser_ok;"
-    "browser_refresh;browser_refresh_alert_message %lld;browser_refresh_alert_title;"
-    "browser_reset_snooze;browser_select_description;browser_select_target;"
-    "browser_select_to_enable;browser_set_now;browser_snooze_description;"
-    "browser_snooze_duration;browser_snooze_title;browser_statistics_title;"
-    "browser_status_title;browser_stop;browser_target_title;browser_waiting_prompt;"
-    "email_already_default;email_bundle_id %@;email_changes_detected;email_check_interval;"
-    "email_check_on_login;email_check_on_unlock;email_check_on_wake;email_current;"
-    "email_currently_snoozed;email_enable_monitoring;email_event_monitoring_title;"
-    "email_last_change;email_monitoring_title;email_never_changed;email_no_clients;email_none;"
-    "email_none_detected;email_ok;email_refresh;email_refresh_alert_message %lld;"
-    "email_refresh_alert_title;email_reset_snooze;email_select_description;email_select_target;"
-    "email_select_to_enable;email_set_now;email_snooze_description;email_snooze_duration;"
-    "email_snooze_title;email_statistics_title;email_status_title;email_stop;"
-    "email_target_title;email_waiting_prompt;log_clear;log_clear_cancel_button;"
-    "log_clear_confirm_button;log_clear_confirm_message;log_clear_confirm_title;"
-    "log_empty_description;log_empty_title;log_export;log_export_filename;log_filter_all;"
-    "log_filter_browser;log_filter_email;log_filter_label;log_refresh;about_contact;"
-    "about_copyright %lld;about_description;about_rights;about_support;about_version;"
-    "about_website;";
+    "update_interval_weekly;update_no_updates_message;update_no_updates_title;browser_no_browsers;"
+    "email_no_clients;log_clear;log_clear_cancel_button;log_clear_confirm_button;"
+    "log_clear_confirm_message;log_clear_confirm_title;log_empty_description;log_empty_title;"
+    "log_export;log_export_filename;log_filter_all;log_filter_browser;log_filter_email;"
+    "log_filter_label;log_refresh;about_contact;about_copyright %lld;about_description;"
+    "about_rights;about_support;about_version;about_website;";
+
+// The texts of the browser page, each also on the mail page with "email_" for "browser_".
+const char guardPageKeys[] =
+    "already_default;bundle_id %@;changes_detected;check_interval;check_on_login;check_on_unlock;"
+    "check_on_wake;current;currently_snoozed;enable_monitoring;event_monitoring_title;last_change;"
+    "monitoring_title;never_changed;none;none_detected;ok;refresh;refresh_alert_message %lld;"
+    "refresh_alert_title;reset_snooze;select_description;select_target;select_to_enable;set_now;"
+    "snooze_description;snooze_duration;snooze_title;statistics_title;status_title;stop;"
+    "target_title;waiting_prompt;";
 
 // The specifiers of a text in order of appearance, positional forms reduced to their
 // conversion ("%2$@" reads as "%@"); "%%" is no specifier.
@@ -95,7 +84,10 @@ const QList<CatalogueEntry> &catalogue()
 {
     static const QList<CatalogueEntry> all = [] {
         QList<CatalogueEntry> entries;
-        for (const QString &key : QString::fromUtf8(keyList).split(u';', Qt::SkipEmptyParts)) {
+        QStringList keys = QString::fromUtf8(keyList).split(u';', Qt::SkipEmptyParts);
+        for (const QString &key : QString::fromUtf8(guardPageKeys).split(u';', Qt::SkipEmptyParts))
+            keys << u"browser_" + key << u"email_" + key;
+        for (const QString &key : keys) {
             // Two texts show a version their key does not name.
             const bool hidden = key == u"about_version" || key == u"update_available_message";
             entries.append({key, hidden ? QStringList{QStringLiteral("%@")} : specifiersIn(key)});
