@@ -9,6 +9,8 @@
 #include "ScriptedPrompter.h"
 #include "TempSettings.h"
 #include "core/changelog/LogManager.h"
+#include "core/guard/Browser.h"
+#include "core/guard/EmailClient.h"
 #include "core/guard/GuardEnvironment.h"
 #include "platform/SystemEvents.h"
 
@@ -27,6 +29,9 @@ struct GuardWorld {
     // The buttons of the change alert.
     static constexpr int changeBack = 0;
     static constexpr int keep = 1;
+
+    static Browser firefox() { return Browser("Firefox", "firefox-esr"); }
+    static EmailClient thunderbird() { return EmailClient("Thunderbird", "thunderbird"); }
 
     TempSettings settings;
     FakeHandlerDatabase handlers;

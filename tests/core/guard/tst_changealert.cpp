@@ -9,15 +9,13 @@
 class ChangeAlertTest : public QObject {
     Q_OBJECT
 
-    static Browser firefox() { return Browser("Firefox", "firefox-esr"); }
-
     // A browser guard guarding Firefox while Chromium has taken over, its first alert up.
     struct Incident {
         GuardWorld world;
         BrowserManager browser{world.environment()};
         Incident()
         {
-            browser.setTargetDefaultBrowser(firefox());
+            browser.setTargetDefaultBrowser(GuardWorld::firefox());
             world.browsersDefault("chromium");
             world.tick();
             GuardWorld::settle();
@@ -120,7 +118,7 @@ private Q_SLOTS:
         GuardEnvironment environment = world.environment();
         environment.texts = &texts;
         BrowserManager browser(environment);
-        browser.setTargetDefaultBrowser(firefox());
+        browser.setTargetDefaultBrowser(GuardWorld::firefox());
         world.browsersDefault("chromium");
         browser.checkDefaultBrowser();
         world.browsersDefault("epiphany");
@@ -154,8 +152,8 @@ private Q_SLOTS:
         GuardWorld world;
         BrowserManager browser(world.environment());
         EmailClientManager email(world.environment());
-        browser.setTargetDefaultBrowser(firefox());
-        email.setTargetDefaultEmailClient(EmailClient("Thunderbird", "thunderbird"));
+        browser.setTargetDefaultBrowser(GuardWorld::firefox());
+        email.setTargetDefaultEmailClient(GuardWorld::thunderbird());
         world.mailDefault("evolution");
         world.tick();
         GuardWorld::settle();
@@ -238,7 +236,7 @@ private Q_SLOTS:
     {
         GuardWorld world;
         auto browser = std::make_unique<BrowserManager>(world.environment());
-        browser->setTargetDefaultBrowser(firefox());
+        browser->setTargetDefaultBrowser(GuardWorld::firefox());
         world.browsersDefault("chromium");
         browser->checkDefaultBrowser();
         GuardWorld::settle();
@@ -252,7 +250,7 @@ private Q_SLOTS:
     {
         GuardWorld world;
         EmailClientManager email(world.environment());
-        email.setTargetDefaultEmailClient(EmailClient("Thunderbird", "thunderbird"));
+        email.setTargetDefaultEmailClient(GuardWorld::thunderbird());
         email.setSnoozeDuration(SnoozeDuration::thirtyMinutes);
         world.mailDefault("evolution");
         world.alerts.answerNext(GuardWorld::keep);

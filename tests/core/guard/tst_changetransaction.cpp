@@ -6,20 +6,18 @@
 class ChangeTransactionTest : public QObject {
     Q_OBJECT
 
-    static Browser firefox() { return Browser("Firefox", "firefox-esr"); }
-
 private Q_SLOTS:
     void aChangeBackIsPolledUntilTheSystemShowsIt()
     {
         GuardWorld world;
         world.browsersDefault("chromium");
         BrowserManager browser(world.environment());
-        browser.setTargetDefaultBrowser(firefox());
+        browser.setTargetDefaultBrowser(GuardWorld::firefox());
         browser.setBrowserChangeCount(4);
         world.handlers.refuse("https"); // only http follows for now
 
         ConsoleCapture console;
-        browser.setDefaultBrowser(firefox());
+        browser.setDefaultBrowser(GuardWorld::firefox());
         QVERIFY(browser.isChangingBrowser());
         QVERIFY(world.waitForPolling());
         QCOMPARE(world.handlers.setCalls(), QStringList({"http=firefox-esr", "https=firefox-esr"}));
@@ -52,7 +50,7 @@ private Q_SLOTS:
         GuardWorld world;
         BrowserManager browser(world.environment());
         ConsoleCapture console;
-        browser.setDefaultBrowser(firefox());
+        browser.setDefaultBrowser(GuardWorld::firefox());
         QVERIFY(world.waitForPolling());
         world.poll();
         QCOMPARE(console.lines().last(), QString("✅ Browser set to Firefox"));
@@ -66,7 +64,7 @@ private Q_SLOTS:
         world.browsersDefault("chromium");
         BrowserManager browser(world.environment());
         world.handlers.refuse("https");
-        browser.setDefaultBrowser(firefox());
+        browser.setDefaultBrowser(GuardWorld::firefox());
         QVERIFY(world.waitForPolling());
         world.poll(2);
         ConsoleCapture console;
@@ -83,7 +81,7 @@ private Q_SLOTS:
         GuardWorld fresh;
         fresh.browsersDefault("chromium");
         BrowserManager early(fresh.environment());
-        early.setDefaultBrowser(firefox());
+        early.setDefaultBrowser(GuardWorld::firefox());
         early.cancelBrowserChange();
         QVERIFY(!early.isChangingBrowser());
         QVERIFY(fresh.waitForPolling());
@@ -102,7 +100,7 @@ private Q_SLOTS:
         BrowserManager browser(world.environment());
         world.handlers.refuse("https");
         world.handlers.refuse("http");
-        browser.setDefaultBrowser(firefox());
+        browser.setDefaultBrowser(GuardWorld::firefox());
         QVERIFY(world.waitForPolling());
         world.poll(3);
 
@@ -135,7 +133,7 @@ private Q_SLOTS:
         world.browsersDefault("chromium");
         auto browser = std::make_unique<BrowserManager>(world.environment());
         world.handlers.holdWrites();
-        browser->setDefaultBrowser(firefox());
+        browser->setDefaultBrowser(GuardWorld::firefox());
         world.handlers.waitUntilWriting();
         // The system answers only once the guard itself is gone, while what it owns is
         // being torn down.
@@ -152,7 +150,7 @@ private Q_SLOTS:
         world.mailDefault("evolution");
         EmailClientManager email(world.environment());
         ConsoleCapture console;
-        email.setDefaultEmailClient(EmailClient("Thunderbird", "thunderbird"));
+        email.setDefaultEmailClient(GuardWorld::thunderbird());
         QVERIFY(email.isChangingEmailClient());
         QVERIFY(world.waitForPolling());
         world.poll();

@@ -57,8 +57,6 @@ class InstantDetectionTest : public QObject {
     }
     int settle() { return m_world->timers.fire(DefaultFileMonitor::settleDelay); }
 
-    static Browser firefox() { return Browser("Firefox", "firefox-esr"); }
-
 private Q_SLOTS:
     void init()
     {
@@ -70,7 +68,7 @@ private Q_SLOTS:
     void aBurstOfChangesIsOneCheckThatRestartsTheInterval()
     {
         BrowserManager browser(environment());
-        browser.setTargetDefaultBrowser(firefox());
+        browser.setTargetDefaultBrowser(GuardWorld::firefox());
         ScriptedWatcher &watcher = *m_watchers.first();
         QVERIFY(watcher.isWatching());
         QCOMPARE(watcher.schemes, QStringList({"https", "http"}));
@@ -100,7 +98,7 @@ private Q_SLOTS:
     void changesThatRunNoCheck()
     {
         BrowserManager browser(environment());
-        browser.setTargetDefaultBrowser(firefox());
+        browser.setTargetDefaultBrowser(GuardWorld::firefox());
         ScriptedWatcher &watcher = *m_watchers.first();
 
         // The files were touched, but hold what they held: the moved default is not seen.

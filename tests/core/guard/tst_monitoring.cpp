@@ -7,14 +7,12 @@
 class MonitoringTest : public QObject {
     Q_OBJECT
 
-    static Browser firefox() { return Browser("Firefox", "firefox-esr"); }
-
 private Q_SLOTS:
     void aMismatchIsLoggedCountedAndAlertedOnEveryCheck()
     {
         GuardWorld world;
         BrowserManager browser(world.environment());
-        browser.setTargetDefaultBrowser(firefox());
+        browser.setTargetDefaultBrowser(GuardWorld::firefox());
         ConsoleCapture console;
         world.tick();
         QVERIFY(console.lines().isEmpty());
@@ -37,8 +35,7 @@ private Q_SLOTS:
         QCOMPARE(alert.text,
                  QString("Another program has made Chromium your default browser. "
                          "Your target browser is Firefox. Do you want to change it back?"));
-        QCOMPARE(alert.buttons.at(0), QString("Change back"));
-        QCOMPARE(alert.buttons.at(1), QString("Keep Chromium for now"));
+        QCOMPARE(alert.buttons, QStringList({"Change back", "Keep Chromium for now"}));
         QCOMPARE(alert.symbolName, QString("exclamationmark.shield"));
 
         // A default that stays away counts again, logged from itself to itself.
@@ -69,7 +66,7 @@ private Q_SLOTS:
         { // Monitoring off: a check only resolves.
             GuardWorld world;
             BrowserManager browser(world.environment());
-            browser.setTargetDefaultBrowser(firefox());
+            browser.setTargetDefaultBrowser(GuardWorld::firefox());
             browser.setMonitoringEnabled(false);
             QVERIFY(world.timers.active().isEmpty());
             world.browsersDefault("chromium");
@@ -84,7 +81,7 @@ private Q_SLOTS:
             world.handlers.setHandlers("https", {});
             world.handlers.setHandlers("http", {});
             BrowserManager browser(world.environment());
-            browser.setTargetDefaultBrowser(firefox());
+            browser.setTargetDefaultBrowser(GuardWorld::firefox());
             world.browsersDefault("epiphany");
             ConsoleCapture console;
             world.tick();
@@ -102,7 +99,7 @@ private Q_SLOTS:
     {
         GuardWorld world;
         BrowserManager browser(world.environment());
-        browser.setTargetDefaultBrowser(firefox());
+        browser.setTargetDefaultBrowser(GuardWorld::firefox());
         world.browsersDefault("chromium");
 
         // One immediate check per restart; exactly one timer, of the new period.
@@ -135,8 +132,8 @@ private Q_SLOTS:
         GuardWorld world;
         BrowserManager browser(world.environment());
         EmailClientManager email(world.environment());
-        email.setTargetDefaultEmailClient(EmailClient("Thunderbird", "thunderbird"));
-        browser.setTargetDefaultBrowser(firefox());
+        email.setTargetDefaultEmailClient(GuardWorld::thunderbird());
+        browser.setTargetDefaultBrowser(GuardWorld::firefox());
         world.mailDefault("evolution");
         ConsoleCapture console;
         QCOMPARE(world.tick(), 2);

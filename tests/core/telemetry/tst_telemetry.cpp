@@ -79,7 +79,7 @@ private Q_SLOTS:
                     {"settings_changed", {{"setting", QString(role + setting)}, {"value", value}}});
         }
 
-        browser.setTargetDefaultBrowser(Browser("Firefox", "firefox-esr"));
+        browser.setTargetDefaultBrowser(GuardWorld::firefox());
         world.browsersDefault("chromium");
         world.tick();
         GuardWorld::settle();
@@ -88,7 +88,7 @@ private Q_SLOTS:
         world.poll();
         QVERIFY(!browser.isChangingBrowser());
 
-        email.setTargetDefaultEmailClient(EmailClient("Thunderbird", "thunderbird"));
+        email.setTargetDefaultEmailClient(GuardWorld::thunderbird());
         world.mailDefault("evolution");
         world.tick();
         GuardWorld::settle();
