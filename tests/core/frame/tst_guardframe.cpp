@@ -1,9 +1,4 @@
-#include "ConsoleCapture.h"
-#include "FakeClock.h"
-#include "FakeHandlerDatabase.h"
-#include "FakeTimerFactory.h"
-#include "RecordingTelemetry.h"
-#include "TempSettings.h"
+#include "../guard/GuardWorld.h"
 #include "core/guard/BrowserManager.h"
 #include "core/guard/EmailClientManager.h"
 
@@ -15,25 +10,18 @@
 class GuardFrameTest : public QObject {
     Q_OBJECT
 
-    struct World {
-        TempSettings settings;
-        FakeHandlerDatabase handlers;
-        FakeClock clock;
-        FakeTimerFactory timers;
-        RecordingTelemetry telemetry;
-        GuardEnvironment environment(SettingsStore *store = nullptr, bool atLogin = false)
-        {
-            GuardEnvironment env{store ? store : &settings.store(), &handlers, &clock, &timers};
-            env.telemetry = &telemetry;
-            env.launchedAtLogin = atLogin;
-            return env;
-        }
-    };
+    // The environment of a start at login.
+    static GuardEnvironment atLogin(GuardWorld &world)
+    {
+        GuardEnvironment env = world.environment();
+        env.launchedAtLogin = true;
+        return env;
+    }
 
 private Q_SLOTS:
     void firstLaunchWritesTheDefaultsOnce()
     {
-        World world;
+        GuardWorld world;
         {
             ConsoleCapture console;
             BrowserManager browser(world.environment());
@@ -63,7 +51,7 @@ private Q_SLOTS:
 
     void eachGuardHasItsOwnMarker()
     {
-        World world;
+        GuardWorld world;
         world.settings.store().setBool("hasLaunchedBefore", true);
         ConsoleCapture console;
         BrowserManager browser(world.environment());
@@ -77,7 +65,7 @@ private Q_SLOTS:
 
     void unreadableValuesReadAsDefaultsAndStayStored()
     {
-        World world;
+        GuardWorld world;
         SettingsStore &store = world.settings.store();
         store.setBool("hasLaunchedBefore", true);
         store.setData("targetDefaultBrowser", "\x89not json at all");
@@ -86,8 +74,9 @@ private Q_SLOTS:
         store.setString("monitoringEnabled", "sure");
         store.setString("lastBrowserChange", "yesterday");
         for (int pass = 0; pass < 2; ++pass) {
-            BrowserManager browser(
-                world.environment(pass == 0 ? &store : &world.settings.reopen()));
+            if (pass == 1)
+                world.settings.reopen(); // read afresh, as after a restart
+            BrowserManager browser(world.environment());
             QVERIFY(!browser.targetDefaultBrowser());
             QCOMPARE(browser.checkInterval(), CheckInterval::tenMinutes);
             QCOMPARE(browser.snoozeDuration(), SnoozeDuration::oneHour);
@@ -101,7 +90,7 @@ private Q_SLOTS:
 
     void aTargetIsStoredAsItsRecordAndRemovedByNone()
     {
-        World world;
+        GuardWorld world;
         BrowserManager browser(world.environment());
         const Browser firefox("Firefox", "firefox-esr",
                               QString("/usr/share/applications/firefox-esr.desktop"));
@@ -115,7 +104,7 @@ private Q_SLOTS:
 
     void settersStoreBeforeTheyTellAndTellEveryTime()
     {
-        World world;
+        GuardWorld world;
         BrowserManager browser(world.environment());
         QStringList seen;
         connect(&browser, &HandlerGuard::objectWillChange, this, [&] {
@@ -129,7 +118,7 @@ private Q_SLOTS:
 
     void isProtectedNeedsMonitoringAndOneTrigger()
     {
-        World world;
+        GuardWorld world;
         EmailClientManager email(world.environment());
         email.setCheckInterval(CheckInterval::none);
         QVERIFY(email.isProtected()); // the event switches still fire
@@ -145,7 +134,7 @@ private Q_SLOTS:
 
     void resetToDefaultsKeepsTheTargetAndTheMarker()
     {
-        World world;
+        GuardWorld world;
         BrowserManager browser(world.environment());
         browser.setTargetDefaultBrowser(Browser("Chromium", "chromium"));
         browser.setCheckInterval(CheckInterval::daily);
@@ -161,11 +150,11 @@ private Q_SLOTS:
 
     void constructionResolvesTheDefaultAndSchedulesTheLoginCheck()
     {
-        World world;
+        GuardWorld world;
         world.handlers.install("firefox-esr", QString("Firefox ESR"));
         world.handlers.setHandlers("https", {"firefox-esr"});
         ConsoleCapture console;
-        BrowserManager browser(world.environment(nullptr, true));
+        BrowserManager browser(atLogin(world));
         QCOMPARE(browser.currentDefaultBrowser()->name, QString("Firefox ESR"));
         const QStringList lines = console.lines();
         QVERIFY(lines.indexOf("✨ First launch - defaults set")
@@ -174,10 +163,10 @@ private Q_SLOTS:
         QCOMPARE(world.timers.activeWithInterval(std::chrono::milliseconds(2000)).size(), 1);
 
         // Without the login switch the launch is not even looked at.
-        World other;
+        GuardWorld other;
         other.settings.store().setBool("hasLaunchedBefore", true);
         ConsoleCapture quiet;
-        BrowserManager notAtLogin(other.environment(nullptr, true));
+        BrowserManager notAtLogin(atLogin(other));
         QVERIFY(!quiet.contains("🚀 Launched at login"));
         QVERIFY(other.timers.activeWithInterval(std::chrono::milliseconds(2000)).isEmpty());
     }
