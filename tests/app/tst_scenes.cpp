@@ -26,8 +26,8 @@ class ScenesTest : public QObject {
         AppScenes scenes{shell.env};
 
         Rig() { qunsetenv(WindowRouter::openTabVariable); }
-        SceneWindow *settings() const { return scenes.window(QStringLiteral("settings")); }
-        SceneWindow *about() const { return scenes.window(QStringLiteral("about")); }
+        SceneWindow *settings() const { return scenes.window("settings"); }
+        SceneWindow *about() const { return scenes.window("about"); }
         SettingsView *view() const { return qobject_cast<SettingsView *>(settings()->root()); }
     };
 
@@ -36,7 +36,7 @@ private Q_SLOTS:
     {
         Rig rig;
         QVERIFY(!rig.settings());
-        QVERIFY(QDesktopServices::openUrl(QUrl(QStringLiteral("vandorel://settings"))));
+        QVERIFY(QDesktopServices::openUrl(QUrl("vandorel://settings")));
         SceneWindow *settings = rig.settings();
         QVERIFY(settings && settings->isVisible());
         QCOMPARE(settings->windowTitle(), QString("Vandorel Settings"));
@@ -47,19 +47,19 @@ private Q_SLOTS:
         QVERIFY(qAbs(settings->geometry().center().y() - screen.center().y()) <= 1);
         QTRY_COMPARE(QApplication::activeWindow(), settings);
 
-        QVERIFY(rig.scenes.openUrl(QUrl(QStringLiteral("vandorel://about"))));
+        QVERIFY(rig.scenes.openUrl(QUrl("vandorel://about")));
         QVERIFY(rig.about()->isVisible());
         QCOMPARE(rig.about()->windowTitle(), QString("About Vandorel"));
         QTRY_COMPARE(QApplication::activeWindow(), rig.about());
 
         // Asking again brings the same window forward; other hosts and schemes do nothing.
-        rig.view()->setSelectedTab(QStringLiteral("log"));
-        rig.scenes.openUrl(QUrl(QStringLiteral("vandorel://settings")));
+        rig.view()->setSelectedTab("log");
+        rig.scenes.openUrl(QUrl("vandorel://settings"));
         QCOMPARE(rig.settings(), settings);
         QCOMPARE(rig.view()->selectedTab(), QString("log"));
         QTRY_COMPARE(QApplication::activeWindow(), settings);
-        QVERIFY(!rig.scenes.openUrl(QUrl(QStringLiteral("vandorel://log"))));
-        QVERIFY(!rig.scenes.openUrl(QUrl(QStringLiteral("other://about"))));
+        QVERIFY(!rig.scenes.openUrl(QUrl("vandorel://log")));
+        QVERIFY(!rig.scenes.openUrl(QUrl("other://about")));
         QCOMPARE(QApplication::topLevelWidgets().count(settings), 1);
         QCOMPARE(rig.shell.openedWindows, QStringList());
     }
@@ -67,13 +67,13 @@ private Q_SLOTS:
     void closingAWindowStopsNothingElse()
     {
         Rig rig;
-        rig.scenes.openWindow(QStringLiteral("settings"));
+        rig.scenes.openWindow("settings");
         SceneWindow *settings = rig.settings();
         QVERIFY(settings->close());
         QTRY_VERIFY(!settings->root());
         // Both guards keep watching.
         QCOMPARE(rig.shell.world.timers.activeWithInterval(GuardWorld::tenMinutes).size(), 2);
-        rig.scenes.openWindow(QStringLiteral("settings"));
+        rig.scenes.openWindow("settings");
         QCOMPARE(rig.settings(), settings);
         QVERIFY(rig.view());
     }
@@ -100,7 +100,7 @@ private Q_SLOTS:
         Rig rig;
         rig.scenes.router().openSettingsTab(SettingsTab::log);
         rig.shell.world.timers.fire(WindowRouter::openTabLifetime);
-        rig.scenes.openWindow(QStringLiteral("about"));
+        rig.scenes.openWindow("about");
         QPointer<QWidget> panel = rig.scenes.panel().root();
         QPointer<QWidget> settings = rig.settings()->root();
         QPointer<QWidget> about = rig.about()->root();
@@ -119,7 +119,7 @@ private Q_SLOTS:
         QVERIFY(rig.scenes.menu().actions().at(3)->text() != entry);
 
         // A tab handed over at that moment survives the rebuild.
-        rig.view()->setSelectedTab(QStringLiteral("log"));
+        rig.view()->setSelectedTab("log");
         qputenv(WindowRouter::openTabVariable, "email");
         rig.shell.switchLanguage(AppLanguage::english);
         rig.shell.world.timers.fire(AppScenes::rebuildDelay);

@@ -53,9 +53,9 @@ class InstallTreeTest : public QObject {
     {
         QStringList codes;
         const QDir tables(qEnvironmentVariable("VANDOREL_SOURCE_DIR") + u"/resources/translations");
-        for (const QString &file : tables.entryList({QStringLiteral("vandorel_*.ts")}))
+        for (const QString &file : tables.entryList({"vandorel_*.ts"}))
             codes << file.section(u'_', 1).section(u'.', 0, 0);
-        codes.removeAll(QStringLiteral("en"));
+        codes.removeAll("en");
         return codes;
     }
 
@@ -70,7 +70,7 @@ private Q_SLOTS:
     void desktopEntryOpensOurUrls()
     {
         const QString path = m_copy->path(u"share/applications/" + m_appId + u".desktop");
-        const QString problems = complaints(QStringLiteral("desktop-file-validate"), {path});
+        const QString problems = complaints("desktop-file-validate", {path});
         QVERIFY2(problems.isEmpty(), qPrintable(problems));
 
         const QHash<QByteArray, Group> entry = groups(read(path));
@@ -94,7 +94,7 @@ private Q_SLOTS:
 
         // GIO launches it only when the program of Exec is found.
         const QByteArray systemPath = qgetenv("PATH");
-        qputenv("PATH", QFile::encodeName(m_copy->path(QStringLiteral("bin"))));
+        qputenv("PATH", QFile::encodeName(m_copy->path("bin")));
         const bool launchable = DesktopEntry::read(path)->isLaunchable();
         qputenv("PATH", systemPath);
         QVERIFY(launchable);
@@ -103,22 +103,20 @@ private Q_SLOTS:
     void metainfoIsValidAndNamesThisVersion()
     {
         const QString path = m_copy->path(u"share/metainfo/" + m_appId + u".metainfo.xml");
-        const QString problems =
-            complaints(QStringLiteral("appstreamcli"),
-                       {QStringLiteral("validate"), QStringLiteral("--no-net"), path});
+        const QString problems = complaints("appstreamcli", {"validate", "--no-net", path});
         QVERIFY2(problems.isEmpty(), qPrintable(problems));
         const QString xml = QString::fromUtf8(read(path));
         QVERIFY(xml.contains(u"<release version=\"" + QLatin1StringView(BuildConfig::appVersion)
                              + u"\""));
         QVERIFY(
             xml.contains(u"<launchable type=\"desktop-id\">" + m_appId + u".desktop</launchable>"));
-        QVERIFY(xml.contains(QStringLiteral("<binary>vandorel</binary>")));
-        QVERIFY(QFileInfo(m_copy->path(QStringLiteral("bin/vandorel"))).isExecutable());
+        QVERIFY(xml.contains("<binary>vandorel</binary>"));
+        QVERIFY(QFileInfo(m_copy->path("bin/vandorel")).isExecutable());
     }
 
     void iconAtEverySize()
     {
-        const QString icons = m_copy->path(QStringLiteral("share/icons/hicolor"));
+        const QString icons = m_copy->path("share/icons/hicolor");
         QVERIFY(QFile::exists(icons + u"/scalable/apps/" + m_appId + u".svg"));
         for (int size : {16, 32, 48, 64, 128, 256}) {
             const QString folder = QString::number(size) + u'x' + QString::number(size);
@@ -136,12 +134,11 @@ private Q_SLOTS:
         for (const char *file :
              {"share/man/man1/vandorel.1.gz", "share/doc/vandorel/changelog.gz"}) {
             QProcess gunzip;
-            gunzip.start(QStringLiteral("gunzip"), {QStringLiteral("-c"), m_copy->path(file)});
+            gunzip.start("gunzip", {"-c", m_copy->path(file)});
             QVERIFY(gunzip.waitForFinished(10000));
             QVERIFY2(gunzip.readAll().contains(BuildConfig::appVersion), file);
         }
-        const QByteArray copyright =
-            read(m_copy->path(QStringLiteral("share/doc/vandorel/copyright")));
+        const QByteArray copyright = read(m_copy->path("share/doc/vandorel/copyright"));
         QVERIFY(copyright.startsWith("Format: https://www.debian.org/doc/packaging-manuals/"
                                      "copyright-format/1.0/\n"));
     }

@@ -28,27 +28,23 @@ class PackageTest : public QObject {
 
     QString field(const char *name) const
     {
-        return run(QStringLiteral("dpkg-deb"),
-                   {QStringLiteral("--field"), m_deb, QLatin1StringView(name)})
-            .out.trimmed();
+        return run("dpkg-deb", {"--field", m_deb, QLatin1StringView(name)}).out.trimmed();
     }
 
 private Q_SLOTS:
     void initTestCase()
     {
-        const Result pack = run(QStringLiteral("cpack"),
-                                {QStringLiteral("--config"),
-                                 QStringLiteral(VANDOREL_BUILD_DIR "/CPackConfig.cmake"),
-                                 QStringLiteral("-B"), m_dir.path()},
-                                true);
+        const Result pack =
+            run("cpack",
+                {"--config", QStringLiteral(VANDOREL_BUILD_DIR "/CPackConfig.cmake"), "-B",
+                 m_dir.path()},
+                true);
         QVERIFY2(pack.exitCode == 0, qPrintable(pack.out));
-        const QStringList debs = QDir(m_dir.path()).entryList({QStringLiteral("*.deb")});
+        const QStringList debs = QDir(m_dir.path()).entryList({"*.deb"});
         QCOMPARE(debs.size(), 1);
         m_deb = m_dir.filePath(debs.first());
-        QCOMPARE(debs.first(),
-                 u"vandorel_" + QLatin1StringView(BuildConfig::appVersion) + u"_"
-                     + run(QStringLiteral("dpkg"), {"--print-architecture"}).out.trimmed()
-                     + u".deb");
+        QCOMPARE(debs.first(), u"vandorel_" + QLatin1StringView(BuildConfig::appVersion) + u"_"
+                                   + run("dpkg", {"--print-architecture"}).out.trimmed() + u".deb");
     }
 
     void controlFieldsAndComputedDependencies()
@@ -60,13 +56,13 @@ private Q_SLOTS:
         for (const char *library : {"libc6 (>=", "libstdc++6 (>=", "libqt6core6 (>=",
                                     "libqt6widgets6 (>=", "libqt6dbus6 (>=", "libqt6network6 (>="})
             QVERIFY2(depends.contains(QLatin1StringView(library)), qPrintable(depends));
-        QVERIFY(depends.contains(QRegularExpression(QStringLiteral("libicu\\d+ \\(>="))));
+        QVERIFY(depends.contains(QRegularExpression("libicu\\d+ \\(>=")));
         QVERIFY(!field("Maintainer").isEmpty());
     }
 
     void filesAreExactlyTheInstalledOnes()
     {
-        const QString listing = run(QStringLiteral("dpkg-deb"), {"--contents", m_deb}).out;
+        const QString listing = run("dpkg-deb", {"--contents", m_deb}).out;
         QStringList files;
         for (const QString &line : listing.split(u'\n', Qt::SkipEmptyParts)) {
             if (!line.startsWith(u'd')) // directories come with their files
@@ -100,10 +96,9 @@ private Q_SLOTS:
     void programIsStripped()
     {
         QTemporaryDir unpacked;
-        QCOMPARE(run(QStringLiteral("dpkg-deb"), {"-x", m_deb, unpacked.path()}).exitCode, 0);
+        QCOMPARE(run("dpkg-deb", {"-x", m_deb, unpacked.path()}).exitCode, 0);
         for (const char *file : {"/usr/bin/vandorel", "/usr/lib/vandorel/vandorel-program.so"}) {
-            const QString sections =
-                run(QStringLiteral("readelf"), {"-S", "-W", unpacked.path() + file}).out;
+            const QString sections = run("readelf", {"-S", "-W", unpacked.path() + file}).out;
             QVERIFY2(sections.contains(u" .text "), file);
             QVERIFY2(!sections.contains(u" .symtab "), file);
             QVERIFY2(!sections.contains(u" .debug_"), file);
@@ -113,8 +108,7 @@ private Q_SLOTS:
     // Lintian's errors fail the test; its warnings are listed in the output.
     void lintianFindsNoError()
     {
-        const Result lintian =
-            run(QStringLiteral("lintian"), {"--no-tag-display-limit", "--info", m_deb});
+        const Result lintian = run("lintian", {"--no-tag-display-limit", "--info", m_deb});
         QVERIFY2(lintian.exitCode == 0 || lintian.exitCode == 1, qPrintable(lintian.out));
         QStringList errors;
         for (const QString &line : lintian.out.split(u'\n', Qt::SkipEmptyParts)) {
@@ -129,7 +123,7 @@ private Q_SLOTS:
     // What apt would do with it on this system, without doing it.
     void aptCanInstallIt()
     {
-        const Result apt = run(QStringLiteral("apt-get"), {"--simulate", "install", m_deb}, true);
+        const Result apt = run("apt-get", {"--simulate", "install", m_deb}, true);
         QVERIFY2(apt.exitCode == 0, qPrintable(apt.out));
         QVERIFY2(apt.out.contains(u"Inst vandorel "), qPrintable(apt.out));
     }

@@ -29,17 +29,16 @@ XdgTree::XdgTree()
     for (const char *dir : {"home", "config", "etc/xdg", "local/share/applications",
                             "share1/applications", "share2/applications", "bin", "runtime"})
         QDir().mkpath(root + u'/' + QLatin1String(dir));
-    QFile::setPermissions(root + QStringLiteral("/runtime"),
+    QFile::setPermissions(root + "/runtime",
                           QFileDevice::ReadOwner | QFileDevice::WriteOwner | QFileDevice::ExeOwner);
-    qputenv("HOME", QFile::encodeName(root + QStringLiteral("/home")));
-    qputenv("XDG_CONFIG_HOME", QFile::encodeName(root + QStringLiteral("/config")));
-    qputenv("XDG_CONFIG_DIRS", QFile::encodeName(root + QStringLiteral("/etc/xdg")));
-    qputenv("XDG_DATA_HOME", QFile::encodeName(root + QStringLiteral("/local/share")));
-    qputenv("XDG_DATA_DIRS", QFile::encodeName(root + QStringLiteral("/share1:") + root
-                                               + QStringLiteral("/share2")));
-    qputenv("XDG_RUNTIME_DIR", QFile::encodeName(root + QStringLiteral("/runtime")));
-    qputenv("PATH", QFile::encodeName(root + QStringLiteral("/bin:"))
-                        + m_saved.value("PATH").value_or("/usr/bin:/bin"));
+    qputenv("HOME", QFile::encodeName(root + "/home"));
+    qputenv("XDG_CONFIG_HOME", QFile::encodeName(root + "/config"));
+    qputenv("XDG_CONFIG_DIRS", QFile::encodeName(root + "/etc/xdg"));
+    qputenv("XDG_DATA_HOME", QFile::encodeName(root + "/local/share"));
+    qputenv("XDG_DATA_DIRS", QFile::encodeName(root + "/share1:" + root + "/share2"));
+    qputenv("XDG_RUNTIME_DIR", QFile::encodeName(root + "/runtime"));
+    qputenv("PATH",
+            QFile::encodeName(root + "/bin:") + m_saved.value("PATH").value_or("/usr/bin:/bin"));
     qunsetenv("XDG_CURRENT_DESKTOP");
 }
 
@@ -75,7 +74,7 @@ QByteArray XdgTree::read(const QString &relative) const
 
 QString XdgTree::stub(const QString &name) const
 {
-    const QString relative = QStringLiteral("bin/") + name;
+    const QString relative = "bin/" + name;
     write(relative, "#!/bin/sh\nexit 0\n");
     QFile::setPermissions(path(relative),
                           QFileDevice::ReadOwner | QFileDevice::WriteOwner | QFileDevice::ExeOwner);
@@ -103,14 +102,14 @@ QString XdgTree::installFixture(const QString &fixture, const QString &dir, bool
     if (!in.open(QIODevice::ReadOnly))
         return {};
     const QString text = QString::fromUtf8(in.readAll());
-    static const QRegularExpression exec(QStringLiteral("^(Exec|TryExec)=(\\S+)"),
+    static const QRegularExpression exec("^(Exec|TryExec)=(\\S+)",
                                          QRegularExpression::MultilineOption);
     QString result;
     qsizetype last = 0;
     for (auto it = exec.globalMatch(text); it.hasNext();) {
         const auto match = it.next();
         const QString name = match.captured(2).section(u'/', -1);
-        const QString program = installed ? stub(name) : path(QStringLiteral("missing/") + name);
+        const QString program = installed ? stub(name) : path("missing/" + name);
         result += text.mid(last, match.capturedStart(2) - last) + program;
         last = match.capturedEnd(2);
     }
@@ -124,23 +123,22 @@ void XdgTree::updateCaches() const
 {
     for (const char *dir :
          {"local/share/applications", "share1/applications", "share2/applications"})
-        runTool(QStringLiteral("update-desktop-database"), {path(QLatin1String(dir))});
+        runTool("update-desktop-database", {path(QLatin1String(dir))});
 }
 
 XdgTree::GioAnswer XdgTree::gioMime(const QString &mimeType)
 {
     GioAnswer answer;
-    const QStringList lines =
-        runTool(QStringLiteral("gio"), {QStringLiteral("mime"), mimeType}).split(u'\n');
+    const QStringList lines = runTool("gio", {"mime", mimeType}).split(u'\n');
     bool inRegistered = false;
     for (const QString &line : lines) {
-        if (line.startsWith(QStringLiteral("Default application for"))) {
-            answer.defaultId = line.section(QStringLiteral(": "), -1).trimmed();
+        if (line.startsWith("Default application for")) {
+            answer.defaultId = line.section(": ", -1).trimmed();
         } else if (line.startsWith(u'\t') || line.startsWith(u' ')) {
             if (inRegistered)
                 answer.registered.append(line.trimmed());
         } else {
-            inRegistered = line.startsWith(QStringLiteral("Registered applications"));
+            inRegistered = line.startsWith("Registered applications");
         }
     }
     return answer;
@@ -148,7 +146,5 @@ XdgTree::GioAnswer XdgTree::gioMime(const QString &mimeType)
 
 QString XdgTree::xdgMimeDefault(const QString &mimeType)
 {
-    return runTool(QStringLiteral("xdg-mime"),
-                   {QStringLiteral("query"), QStringLiteral("default"), mimeType})
-        .trimmed();
+    return runTool("xdg-mime", {"query", "default", mimeType}).trimmed();
 }

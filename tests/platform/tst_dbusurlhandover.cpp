@@ -12,7 +12,7 @@ using Result = UrlHandOver::Result;
 class DBusUrlHandOverTest : public QObject {
     Q_OBJECT
 
-    static inline const QString appId = QStringLiteral("io.kestrane.vandorel");
+    static inline const QString appId = "io.kestrane.vandorel";
     std::unique_ptr<PrivateBuses> m_buses;
 
     // A later copy's call, made on its own connection and thread as another process would,
@@ -20,7 +20,7 @@ class DBusUrlHandOverTest : public QObject {
     static Result handOverFromLaterCopy(const QString &url)
     {
         std::future<Result> result = std::async(std::launch::async, [url] {
-            const QString name = QStringLiteral("later copy");
+            const QString name = "later copy";
             Result answer;
             {
                 DBusUrlHandOver later(
@@ -45,7 +45,7 @@ private Q_SLOTS:
 
     void theRunningCopyAnswersWhetherItKnewTheUrl()
     {
-        QCOMPARE(handOverFromLaterCopy(QStringLiteral("vandorel://settings")), Result::unreachable);
+        QCOMPARE(handOverFromLaterCopy("vandorel://settings"), Result::unreachable);
 
         QStringList asked;
         {
@@ -55,24 +55,23 @@ private Q_SLOTS:
                 asked << url;
                 return url.startsWith(u"vandorel://");
             }));
-            QCOMPARE(handOverFromLaterCopy(QStringLiteral("vandorel://settings")), Result::opened);
-            QCOMPARE(handOverFromLaterCopy(QStringLiteral("https://example.org/")),
-                     Result::refused);
+            QCOMPARE(handOverFromLaterCopy("vandorel://settings"), Result::opened);
+            QCOMPARE(handOverFromLaterCopy("https://example.org/"), Result::refused);
 
             // Only one copy holds the name.
-            const QString name = QStringLiteral("second listener");
+            const QString name = "second listener";
             {
                 DBusUrlHandOver second(
                     appId, QDBusConnection::connectToBus(QDBusConnection::SessionBus, name));
                 QVERIFY(!second.listen([](const QString &) { return true; }));
             }
             QDBusConnection::disconnectFromBus(name);
-            QCOMPARE(handOverFromLaterCopy(QStringLiteral("vandorel://about")), Result::opened);
+            QCOMPARE(handOverFromLaterCopy("vandorel://about"), Result::opened);
         }
         QCOMPARE(asked,
                  QStringList({"vandorel://settings", "https://example.org/", "vandorel://about"}));
         // Gone with its owner.
-        QCOMPARE(handOverFromLaterCopy(QStringLiteral("vandorel://about")), Result::unreachable);
+        QCOMPARE(handOverFromLaterCopy("vandorel://about"), Result::unreachable);
     }
 };
 

@@ -16,8 +16,8 @@ private slots:
             "[Desktop Action compose]\r\nName=Write new message\r\nExec=other\r\n"
             "Type=Link\r\nHidden=true\r\n");
         QVERIFY(entry.isValid());
-        QCOMPARE(entry.name(), QStringLiteral("Mail Client ")); // GLib keeps trailing blanks
-        QCOMPARE(entry.type(), QStringLiteral("Application"));
+        QCOMPARE(entry.name(), "Mail Client "); // GLib keeps trailing blanks
+        QCOMPARE(entry.type(), "Application");
         QVERIFY(entry.noDisplay());
         QVERIFY(!entry.hidden());
         QCOMPARE(entry.categories(), QStringList({"Network", "Email"}));
@@ -67,14 +67,13 @@ private slots:
             "[Default Applications]\nt=a.desktop\nt=b.desktop;c.desktop\nu=z.desktop\n"
             "[Added Associations]\nt=a.desktop;\n[Removed Associations]\nt= d.desktop; e\\;.desktop\\s;\n"
             "[MIME Cache]\nt=f.desktop;\n",
-            QStringLiteral("t"));
+            "t");
         QCOMPARE(list.defaults(), QStringList({"b.desktop", "c.desktop"}));
         QCOMPARE(list.added(), QStringList({"a.desktop"}));
         QCOMPARE(list.removed(), QStringList({"d.desktop", " e;.desktop "}));
         QCOMPARE(list.cached(), QStringList({"f.desktop"}));
         // GLib throws away a malformed list as a whole.
-        QVERIFY(MimeAppsList::parse("[Default Applications]\nt=a.desktop\nstray line\n",
-                                    QStringLiteral("t"))
+        QVERIFY(MimeAppsList::parse("[Default Applications]\nt=a.desktop\nstray line\n", "t")
                     .defaults()
                     .isEmpty());
     }

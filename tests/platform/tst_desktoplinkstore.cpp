@@ -39,7 +39,7 @@ private Q_SLOTS:
              {"chromium", "firefox-esr", "kfmclient_html", "thunderbird", "org.gnome.Evolution"})
             QVERIFY(!m_tree
                          ->installFixture(fixture(QLatin1String(entry) + u".desktop"),
-                                          QStringLiteral("share1/applications"))
+                                          "share1/applications")
                          .isEmpty());
         m_tree->updateCaches();
         QVERIFY(run("gio", {"mime", "x-scheme-handler/https", "firefox-esr.desktop"}));
@@ -59,14 +59,14 @@ private Q_SLOTS:
             m_tree->write(u"share2/xfce4/helpers/" + QLatin1String(helper) + u".desktop",
                           in.readAll());
         }
-        QFile systemRc(fixture(QStringLiteral("xfce4/helpers.rc")));
+        QFile systemRc(fixture("xfce4/helpers.rc"));
         QVERIFY(systemRc.open(QIODevice::ReadOnly));
-        m_tree->write(QStringLiteral("etc/xdg/xfce4/helpers.rc"), systemRc.readAll());
+        m_tree->write("etc/xdg/xfce4/helpers.rc", systemRc.readAll());
         qputenv("XDG_CURRENT_DESKTOP", "XFCE");
 
         // Debian's defaults: sensible-browser, which no entry runs, and Thunderbird, though
         // mimeapps.list says Evolution.
-        m_tree->stub(QStringLiteral("sensible-browser"));
+        m_tree->stub("sensible-browser");
         QCOMPARE(defaultId("https"), QString("!sensible-browser"));
         QCOMPARE(defaultId("mailto"), QString("thunderbird"));
         QCOMPARE(QFileInfo(m_db.applicationsForScheme("mailto").first()).fileName(),
@@ -82,7 +82,7 @@ private Q_SLOTS:
         const QByteArray userRc =
             "# mine\nTerminalEmulator=xfce4-terminal\nWebBrowser=firefox-esr\n"
             "\n[Extra]\nMailReader=kept\n";
-        m_tree->write(QStringLiteral("config/xfce4/helpers.rc"), userRc);
+        m_tree->write("config/xfce4/helpers.rc", userRc);
         QCOMPARE(m_db.setDefaultHandler("https", "chromium"), 0);
         QCOMPARE(m_db.setDefaultHandler("mailto", "org.gnome.Evolution"), 0);
         QCOMPARE(m_tree->read("config/xfce4/helpers.rc"),
@@ -111,7 +111,7 @@ private Q_SLOTS:
     {
         qputenv("XDG_CURRENT_DESKTOP", "KDE");
         const auto kdeglobals = [&](const QByteArray &general) {
-            m_tree->write(QStringLiteral("config/kdeglobals"),
+            m_tree->write("config/kdeglobals",
                           "[$Version]\nupdate_info=filepicker.upd:filepicker-remove-old\n\n"
                           "[General]\nColorScheme=BreezeDark\n"
                               + general + "\n[KDE]\nSingleClick=false\n");

@@ -26,16 +26,14 @@ private:
                            std::initializer_list<const char *> names)
     {
         for (const char *name : names)
-            tree.entry(QLatin1String(dir), QLatin1String(name) + QStringLiteral(".desktop"),
-                       web.toByteArray());
+            tree.entry(QLatin1String(dir), QLatin1String(name) + ".desktop", web.toByteArray());
         tree.updateCaches();
     }
 
     QString idAt(const QString &location) const
     {
         const auto application = db.applicationAt(location);
-        return application ? application->identifier + QStringLiteral(".desktop")
-                           : QStringLiteral("<unreadable>");
+        return application ? QString(application->identifier + ".desktop") : "<unreadable>";
     }
 
     // Our default and list for the scheme against `gio mime`: the same default, the default
@@ -64,32 +62,31 @@ private slots:
     {
         XdgTree tree;
         tree.updateCaches();
-        compareWithGio(QStringLiteral("https")); // none at all
+        compareWithGio("https"); // none at all
         installWeb(tree, "share2/applications", {"alpha", "beta", "gamma", "delta"});
-        tree.write(QStringLiteral("share1/applications/mimeapps.list"),
+        tree.write("share1/applications/mimeapps.list",
                    "[Default Applications]\nx-scheme-handler/https=delta.desktop\n");
-        compareWithGio(QStringLiteral("https"));
-        QCOMPARE(defaultId("https"), QStringLiteral("delta.desktop"));
+        compareWithGio("https");
+        QCOMPARE(defaultId("https"), "delta.desktop");
 
-        tree.write(QStringLiteral("local/share/applications/mimeapps.list"),
+        tree.write("local/share/applications/mimeapps.list",
                    "[Default Applications]\nx-scheme-handler/https=gamma.desktop\n");
-        tree.write(QStringLiteral("etc/xdg/mimeapps.list"),
+        tree.write("etc/xdg/mimeapps.list",
                    "[Default Applications]\nx-scheme-handler/https=beta.desktop\n");
-        compareWithGio(QStringLiteral("https"));
-        QCOMPARE(defaultId("https"), QStringLiteral("beta.desktop"));
+        compareWithGio("https");
+        QCOMPARE(defaultId("https"), "beta.desktop");
 
-        tree.write(QStringLiteral("config/mimeapps.list"),
+        tree.write("config/mimeapps.list",
                    "[Default Applications]\nx-scheme-handler/https=alpha.desktop\n"
                    "[Added Associations]\nx-scheme-handler/mailto=alpha.desktop;\n");
-        compareWithGio(QStringLiteral("https"));
-        compareWithGio(QStringLiteral("http"));
-        compareWithGio(QStringLiteral("mailto"));
-        QCOMPARE(defaultId("https"), QStringLiteral("alpha.desktop"));
-        QCOMPARE(XdgTree::xdgMimeDefault(QStringLiteral("x-scheme-handler/https")),
-                 QStringLiteral("alpha.desktop"));
-        QCOMPARE(defaultId("mailto"), QStringLiteral("alpha.desktop"));
+        compareWithGio("https");
+        compareWithGio("http");
+        compareWithGio("mailto");
+        QCOMPARE(defaultId("https"), "alpha.desktop");
+        QCOMPARE(XdgTree::xdgMimeDefault("x-scheme-handler/https"), "alpha.desktop");
+        QCOMPARE(defaultId("mailto"), "alpha.desktop");
         // Schemes are case-insensitive.
-        QCOMPARE(defaultId("HTTPS"), QStringLiteral("alpha.desktop"));
+        QCOMPARE(defaultId("HTTPS"), "alpha.desktop");
     }
 
     // A desktop id belongs to the highest applications directory that has it; an entry in a
@@ -97,33 +94,30 @@ private slots:
     void desktopIds()
     {
         XdgTree tree;
-        tree.entry(QStringLiteral("share2/applications"), QStringLiteral("web.desktop"),
-                   web.toByteArray());
-        const QString upper =
-            tree.entry(QStringLiteral("share1/applications"), QStringLiteral("web.desktop"), {});
+        tree.entry("share2/applications", "web.desktop", web.toByteArray());
+        const QString upper = tree.entry("share1/applications", "web.desktop", {});
         tree.updateCaches();
         // The upper copy declares no types, so share1's cache doesn't list it, and share2's
         // cache no longer speaks for an id share1 provides.
-        compareWithGio(QStringLiteral("https"));
-        QCOMPARE(db.locationForIdentifier(QStringLiteral("web")), upper);
+        compareWithGio("https");
+        QCOMPARE(db.locationForIdentifier("web"), upper);
 
-        tree.write(QStringLiteral("config/mimeapps.list"),
+        tree.write("config/mimeapps.list",
                    "[Default Applications]\nx-scheme-handler/https=web.desktop\n");
-        compareWithGio(QStringLiteral("https"));
-        QCOMPARE(db.defaultApplicationForScheme(QStringLiteral("https")), upper);
+        compareWithGio("https");
+        QCOMPARE(db.defaultApplicationForScheme("https"), upper);
 
-        const QString nested = tree.entry(QStringLiteral("share1/applications/kde4"),
-                                          QStringLiteral("foo.desktop"), web.toByteArray());
-        tree.entry(QStringLiteral("share1/applications"), QStringLiteral("kde4-bar.desktop"),
-                   web.toByteArray());
+        const QString nested =
+            tree.entry("share1/applications/kde4", "foo.desktop", web.toByteArray());
+        tree.entry("share1/applications", "kde4-bar.desktop", web.toByteArray());
         tree.updateCaches();
-        compareWithGio(QStringLiteral("https"));
-        tree.write(QStringLiteral("config/mimeapps.list"),
+        compareWithGio("https");
+        tree.write("config/mimeapps.list",
                    "[Default Applications]\nx-scheme-handler/https=kde4-foo.desktop\n");
-        compareWithGio(QStringLiteral("https"));
-        QCOMPARE(db.defaultApplicationForScheme(QStringLiteral("https")), nested);
-        QCOMPARE(db.locationForIdentifier(QStringLiteral("kde4-foo")), nested);
-        QCOMPARE(db.applicationAt(nested)->identifier, QStringLiteral("kde4-foo"));
+        compareWithGio("https");
+        QCOMPARE(db.defaultApplicationForScheme("https"), nested);
+        QCOMPARE(db.locationForIdentifier("kde4-foo"), nested);
+        QCOMPARE(db.applicationAt(nested)->identifier, "kde4-foo");
     }
 
     // Answers are kept between calls; the next call after a change must not use them.
@@ -134,33 +128,29 @@ private slots:
         const auto setDefault = [](const char *id) -> QByteArray {
             return "[Default Applications]\nx-scheme-handler/https=" + QByteArray(id) + "\n";
         };
-        tree.write(QStringLiteral("config/mimeapps.list"), setDefault("alpha.desktop"));
-        QCOMPARE(defaultId("https"), QStringLiteral("alpha.desktop"));
-        QCOMPARE(defaultId("https"), QStringLiteral("alpha.desktop"));
+        tree.write("config/mimeapps.list", setDefault("alpha.desktop"));
+        QCOMPARE(defaultId("https"), "alpha.desktop");
+        QCOMPARE(defaultId("https"), "alpha.desktop");
 
         // Replaced by rename, as xdg-mime writes it.
-        tree.write(QStringLiteral("config/mimeapps.list.new"), setDefault("beta.desktop"));
-        QVERIFY(
-            std::rename(QFile::encodeName(tree.path(QStringLiteral("config/mimeapps.list.new"))),
-                        QFile::encodeName(tree.path(QStringLiteral("config/mimeapps.list"))))
-            == 0);
-        QCOMPARE(defaultId("https"), QStringLiteral("beta.desktop"));
+        tree.write("config/mimeapps.list.new", setDefault("beta.desktop"));
+        QVERIFY(std::rename(QFile::encodeName(tree.path("config/mimeapps.list.new")),
+                            QFile::encodeName(tree.path("config/mimeapps.list")))
+                == 0);
+        QCOMPARE(defaultId("https"), "beta.desktop");
 
         // Edited in place in the same second, to the same size.
         {
             const auto hold = db.holdReading();
-            QCOMPARE(defaultId("https"), QStringLiteral("beta.desktop"));
-            tree.write(QStringLiteral("config/mimeapps.list"), setDefault("alph.desktop"));
-            tree.entry(QStringLiteral("share2/applications"), QStringLiteral("alph.desktop"), {},
-                       {}, "Renamed");
+            QCOMPARE(defaultId("https"), "beta.desktop");
+            tree.write("config/mimeapps.list", setDefault("alph.desktop"));
+            tree.entry("share2/applications", "alph.desktop", {}, {}, "Renamed");
         }
-        QCOMPARE(defaultId("https"), QStringLiteral("alph.desktop"));
+        QCOMPARE(defaultId("https"), "alph.desktop");
         // And an entry's own text.
-        tree.entry(QStringLiteral("share2/applications"), QStringLiteral("alph.desktop"), {}, {},
-                   "Named Again");
-        QCOMPARE(
-            db.applicationAt(tree.path(QStringLiteral("share2/applications/alph.desktop")))->name,
-            QStringLiteral("Named Again"));
+        tree.entry("share2/applications", "alph.desktop", {}, {}, "Named Again");
+        QCOMPARE(db.applicationAt(tree.path("share2/applications/alph.desktop"))->name,
+                 "Named Again");
     }
 
     void unusableEntriesAreSkipped_data()
@@ -189,36 +179,32 @@ private slots:
         QFETCH(QByteArray, defaults);
         QFETCH(QString, expected);
         XdgTree tree;
-        const QString apps = QStringLiteral("share1/applications");
+        const QString apps = "share1/applications";
         const QByteArray types = web.toByteArray();
-        tree.entry(apps, QStringLiteral("plain.desktop"), types);
-        tree.entry(apps, QStringLiteral("tryexec.desktop"), types,
-                   "TryExec=/nonexistent/tryexec\n");
-        tree.entry(apps, QStringLiteral("link.desktop"), types,
-                   "Type=Link\nURL=https://127.0.0.1/\n");
-        tree.entry(apps, QStringLiteral("nodisplay.desktop"), {}, "NoDisplay=true\n");
-        tree.entry(apps, QStringLiteral("hidden.desktop"), types, "Hidden=true\n");
-        tree.entry(apps, QStringLiteral("hiddenblank.desktop"), types, "Hidden=true \t\n");
-        tree.write(apps + QStringLiteral("/typeblank.desktop"),
-                   "[Desktop Entry]\nType=Application \nName=x\n");
+        tree.entry(apps, "plain.desktop", types);
+        tree.entry(apps, "tryexec.desktop", types, "TryExec=/nonexistent/tryexec\n");
+        tree.entry(apps, "link.desktop", types, "Type=Link\nURL=https://127.0.0.1/\n");
+        tree.entry(apps, "nodisplay.desktop", {}, "NoDisplay=true\n");
+        tree.entry(apps, "hidden.desktop", types, "Hidden=true\n");
+        tree.entry(apps, "hiddenblank.desktop", types, "Hidden=true \t\n");
+        tree.write(apps + "/typeblank.desktop", "[Desktop Entry]\nType=Application \nName=x\n");
         tree.write(
-            apps + QStringLiteral("/noprogram.desktop"),
+            apps + "/noprogram.desktop",
             "[Desktop Entry]\nType=Application\nName=x\nExec=\"/nonexistent/dir/prog\" %u\n");
-        tree.write(apps + QStringLiteral("/malformed.desktop"),
+        tree.write(apps + "/malformed.desktop",
                    "[Desktop Entry]\nType=Application\nName=x\nthis line has no equals sign\n");
-        tree.write(apps + QStringLiteral("/noexec.desktop"),
-                   "[Desktop Entry]\nType=Application\nName=x\n");
-        tree.stub(QStringLiteral("relative-prog"));
-        tree.write(apps + QStringLiteral("/relative.desktop"),
+        tree.write(apps + "/noexec.desktop", "[Desktop Entry]\nType=Application\nName=x\n");
+        tree.stub("relative-prog");
+        tree.write(apps + "/relative.desktop",
                    "[Desktop Entry]\nType=Application\nName=x\nExec=relative-prog %u\n");
         tree.updateCaches();
         tree.write(
-            QStringLiteral("config/mimeapps.list"),
+            "config/mimeapps.list",
             "[Default Applications]\nx-scheme-handler/https=" + defaults
                 + "\n"
                   "[Added Associations]\nx-scheme-handler/https=nodisplay.desktop;hidden.desktop;\n");
 
-        compareWithGio(QStringLiteral("https"));
+        compareWithGio("https");
         if (QTest::currentTestFailed())
             return;
         QCOMPARE(defaultId("https"), expected);
@@ -266,12 +252,12 @@ private slots:
         QFETCH(QString, expected);
         XdgTree tree;
         installWeb(tree, "share1/applications", {"alpha", "beta", "gamma", "delta"});
-        tree.entry(QStringLiteral("share1/applications"), QStringLiteral("epsilon.desktop"), {});
-        tree.write(QStringLiteral("share1/applications/mimeapps.list"),
+        tree.entry("share1/applications", "epsilon.desktop", {});
+        tree.write("share1/applications/mimeapps.list",
                    "[Default Applications]\nx-scheme-handler/https=gamma.desktop\n"
                    "[Added Associations]\nx-scheme-handler/https=alpha.desktop;delta.desktop;\n");
-        tree.write(QStringLiteral("config/mimeapps.list"), list);
-        compareWithGio(QStringLiteral("https"));
+        tree.write("config/mimeapps.list", list);
+        compareWithGio("https");
         if (QTest::currentTestFailed())
             return;
         QCOMPARE(defaultId("https"), expected);
@@ -281,22 +267,22 @@ private slots:
     {
         XdgTree tree;
         installWeb(tree, "share1/applications", {"alpha", "beta", "gamma"});
-        tree.write(QStringLiteral("config/mimeapps.list"),
+        tree.write("config/mimeapps.list",
                    "[Default Applications]\nx-scheme-handler/https=alpha.desktop\n");
-        tree.write(QStringLiteral("config/xfce-mimeapps.list"),
+        tree.write("config/xfce-mimeapps.list",
                    "[Default Applications]\nx-scheme-handler/https=beta.desktop\n");
-        tree.write(QStringLiteral("etc/xdg/gnome-mimeapps.list"),
+        tree.write("etc/xdg/gnome-mimeapps.list",
                    "[Default Applications]\nx-scheme-handler/https=gamma.desktop\n"
                    "[Added Associations]\nx-scheme-handler/mailto=gamma.desktop;\n");
 
-        compareWithGio(QStringLiteral("https"));
-        QCOMPARE(defaultId("https"), QStringLiteral("alpha.desktop"));
+        compareWithGio("https");
+        QCOMPARE(defaultId("https"), "alpha.desktop");
 
         qputenv("XDG_CURRENT_DESKTOP", "GNOME:XFCE");
-        compareWithGio(QStringLiteral("https"));
-        QCOMPARE(defaultId("https"), QStringLiteral("beta.desktop"));
+        compareWithGio("https");
+        QCOMPARE(defaultId("https"), "beta.desktop");
         // Only defaults count in a desktop-specific list; its associations are ignored.
-        compareWithGio(QStringLiteral("mailto"));
+        compareWithGio("mailto");
         QCOMPARE(defaultId("mailto"), QString());
     }
 
@@ -305,24 +291,24 @@ private slots:
         XdgTree tree;
         installWeb(tree, "share2/applications", {"delta"});
         installWeb(tree, "share1/applications", {"alpha", "beta", "gamma"});
-        tree.write(QStringLiteral("config/mimeapps.list"),
+        tree.write("config/mimeapps.list",
                    "[Removed Associations]\nx-scheme-handler/https=alpha.desktop;delta.desktop;\n");
-        compareWithGio(QStringLiteral("https"));
-        compareWithGio(QStringLiteral("http"));
-        QCOMPARE(db.applicationsForScheme(QStringLiteral("https")).size(), 2);
+        compareWithGio("https");
+        compareWithGio("http");
+        QCOMPARE(db.applicationsForScheme("https").size(), 2);
 
         // A lower place cannot remove what a higher one added; an explicit default stays
         // the default even when removed.
-        tree.write(QStringLiteral("share1/applications/mimeapps.list"),
+        tree.write("share1/applications/mimeapps.list",
                    "[Added Associations]\nx-scheme-handler/http=gamma.desktop;\n"
                    "[Removed Associations]\nx-scheme-handler/https=beta.desktop;\n");
-        tree.write(QStringLiteral("config/mimeapps.list"),
+        tree.write("config/mimeapps.list",
                    "[Default Applications]\nx-scheme-handler/https=alpha.desktop\n"
                    "[Removed Associations]\nx-scheme-handler/https=alpha.desktop;\n"
                    "[Added Associations]\nx-scheme-handler/https=delta.desktop;\n");
-        compareWithGio(QStringLiteral("https"));
-        compareWithGio(QStringLiteral("http"));
-        QCOMPARE(defaultId("https"), QStringLiteral("alpha.desktop"));
+        compareWithGio("https");
+        compareWithGio("http");
+        QCOMPARE(defaultId("https"), "alpha.desktop");
     }
 
     void realEntries()
@@ -332,7 +318,7 @@ private slots:
             QVERIFY(!tree.installFixture(qEnvironmentVariable("VANDOREL_SOURCE_DIR")
                                              + u"/tests/platform/fixtures/" + QLatin1String(name)
                                              + u".desktop",
-                                         QStringLiteral("share2/applications"))
+                                         "share2/applications")
                          .isEmpty());
         tree.updateCaches();
         for (const char *scheme : {"http", "https", "mailto"}) {
@@ -341,40 +327,34 @@ private slots:
                      XdgTree::xdgMimeDefault(
                          FreedesktopHandlerDatabase::mimeTypeForScheme(QLatin1String(scheme))));
         }
-        QCOMPARE(db.applicationsForScheme(QStringLiteral("https")).size(), 2);
+        QCOMPARE(db.applicationsForScheme("https").size(), 2);
 
         // A version only where AppStream data names one.
-        QCOMPARE(
-            db.applicationAt(*db.locationForIdentifier(QStringLiteral("firefox-esr")))->version,
-            std::nullopt);
+        QCOMPARE(db.applicationAt(*db.locationForIdentifier("firefox-esr"))->version, std::nullopt);
 
         tree.write(
-            QStringLiteral("share1/metainfo/firefox-esr.metainfo.xml"),
+            "share1/metainfo/firefox-esr.metainfo.xml",
             "<?xml version=\"1.0\"?>\n<component type=\"desktop-application\">\n  <id>firefox-esr</id>\n"
             "  <releases>\n    <release version=\"153.7.0esr\" date=\"2025-11-01\"/>\n"
             "    <release version=\"153.6.0esr\"/>\n  </releases>\n</component>\n");
-        QCOMPARE(
-            db.applicationAt(*db.locationForIdentifier(QStringLiteral("firefox-esr")))->version,
-            QStringLiteral("153.7.0esr"));
+        QCOMPARE(db.applicationAt(*db.locationForIdentifier("firefox-esr"))->version, "153.7.0esr");
     }
 
     void applicationFacts()
     {
         XdgTree tree;
-        const QString unnamed = tree.path(QStringLiteral("share1/applications/unnamed.desktop"));
+        const QString unnamed = tree.path("share1/applications/unnamed.desktop");
         tree.write(
-            QStringLiteral("share1/applications/unnamed.desktop"),
+            "share1/applications/unnamed.desktop",
             "[Desktop Entry]\nType=Application\nName[de]=Ohne\n[Desktop Action a]\nName=Action\n");
         const auto application = db.applicationAt(unnamed);
         QVERIFY(application);
-        QCOMPARE(application->identifier, QStringLiteral("unnamed"));
+        QCOMPARE(application->identifier, "unnamed");
         QCOMPARE(application->name, std::nullopt);
-        QCOMPARE(db.displayNameAtPath(unnamed), QStringLiteral("unnamed"));
-        QCOMPARE(db.applicationAt(tree.path(QStringLiteral("share1/applications/none.desktop"))),
-                 std::nullopt);
-        QCOMPARE(db.locationForIdentifier(QStringLiteral("none")), std::nullopt);
-        QCOMPARE(db.locationForIdentifier(QStringLiteral("../share1/applications/unnamed")),
-                 std::nullopt);
+        QCOMPARE(db.displayNameAtPath(unnamed), "unnamed");
+        QCOMPARE(db.applicationAt(tree.path("share1/applications/none.desktop")), std::nullopt);
+        QCOMPARE(db.locationForIdentifier("none"), std::nullopt);
+        QCOMPARE(db.locationForIdentifier("../share1/applications/unnamed"), std::nullopt);
     }
 };
 

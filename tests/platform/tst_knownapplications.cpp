@@ -38,10 +38,9 @@ private Q_SLOTS:
         // Every entry of the packages (the fixtures), as dpkg installs them; Luakit and
         // Sylpheed have their entries but not their programs.
         const QDir fixtures(QStringLiteral(FIXTURES_DIR));
-        for (const QString &file : fixtures.entryList({QStringLiteral("*.desktop")})) {
+        for (const QString &file : fixtures.entryList({"*.desktop"})) {
             const bool installed = file != u"luakit.desktop" && file != u"sylpheed.desktop";
-            QVERIFY(!tree.installFixture(fixtures.filePath(file),
-                                         QStringLiteral("share2/applications"), installed)
+            QVERIFY(!tree.installFixture(fixtures.filePath(file), "share2/applications", installed)
                          .isEmpty());
         }
         tree.updateCaches();

@@ -41,7 +41,7 @@ private slots:
         QFETCH(QByteArray, before);
         QFETCH(QByteArray, after);
         MimeAppsListEditor editor(before);
-        editor.setValue(QStringLiteral("Default Applications"), QStringLiteral("k"), "v");
+        editor.setValue("Default Applications", "k", "v");
         QCOMPARE(editor.content(), after);
     }
 
@@ -49,13 +49,12 @@ private slots:
     {
         MimeAppsListEditor editor(
             "[Default Applications]\r\nk=a\r\nj=b\r\n[Added Associations]\r\nk=a;\r\n[Default Applications]\r\nk=c");
-        editor.removeKey(QStringLiteral("Default Applications"), QStringLiteral("k"));
+        editor.removeKey("Default Applications", "k");
         QCOMPARE(
             editor.content(),
             QByteArray(
                 "[Default Applications]\r\nj=b\r\n[Added Associations]\r\nk=a;\r\n[Default Applications]\r\n"));
-        QCOMPARE(editor.values(QStringLiteral("Default Applications"), QStringLiteral("k")),
-                 std::nullopt);
+        QCOMPARE(editor.values("Default Applications", "k"), std::nullopt);
     }
 };
 
