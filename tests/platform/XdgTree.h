@@ -23,6 +23,11 @@ public:
     QString path(const QString &relative = {}) const;
     void write(const QString &relative, const QByteArray &content) const;
     QByteArray read(const QString &relative) const;
+    // A mimeapps.list that makes `id` the default for links of `scheme`.
+    static QByteArray defaults(const char *scheme, const char *id)
+    {
+        return "[Default Applications]\nx-scheme-handler/" + QByteArray(scheme) + '=' + id + '\n';
+    }
     // An executable shell script in bin/; returns its absolute path.
     QString stub(const QString &name) const;
     // A launchable entry at <dir>/<file> whose Exec is a stub; `extra` lines are appended to

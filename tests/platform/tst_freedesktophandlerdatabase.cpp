@@ -65,20 +65,19 @@ private slots:
         compareWithGio("https"); // none at all
         installWeb(tree, "share2/applications", {"alpha", "beta", "gamma", "delta"});
         tree.write("share1/applications/mimeapps.list",
-                   "[Default Applications]\nx-scheme-handler/https=delta.desktop\n");
+                   XdgTree::defaults("https", "delta.desktop"));
         compareWithGio("https");
         QCOMPARE(defaultId("https"), "delta.desktop");
 
         tree.write("local/share/applications/mimeapps.list",
-                   "[Default Applications]\nx-scheme-handler/https=gamma.desktop\n");
-        tree.write("etc/xdg/mimeapps.list",
-                   "[Default Applications]\nx-scheme-handler/https=beta.desktop\n");
+                   XdgTree::defaults("https", "gamma.desktop"));
+        tree.write("etc/xdg/mimeapps.list", XdgTree::defaults("https", "beta.desktop"));
         compareWithGio("https");
         QCOMPARE(defaultId("https"), "beta.desktop");
 
         tree.write("config/mimeapps.list",
-                   "[Default Applications]\nx-scheme-handler/https=alpha.desktop\n"
-                   "[Added Associations]\nx-scheme-handler/mailto=alpha.desktop;\n");
+                   XdgTree::defaults("https", "alpha.desktop")
+                       + "[Added Associations]\nx-scheme-handler/mailto=alpha.desktop;\n");
         compareWithGio("https");
         compareWithGio("http");
         compareWithGio("mailto");
@@ -102,8 +101,7 @@ private slots:
         compareWithGio("https");
         QCOMPARE(db.locationForIdentifier("web"), upper);
 
-        tree.write("config/mimeapps.list",
-                   "[Default Applications]\nx-scheme-handler/https=web.desktop\n");
+        tree.write("config/mimeapps.list", XdgTree::defaults("https", "web.desktop"));
         compareWithGio("https");
         QCOMPARE(db.defaultApplicationForScheme("https"), upper);
 
@@ -112,8 +110,7 @@ private slots:
         tree.entry("share1/applications", "kde4-bar.desktop", web.toByteArray());
         tree.updateCaches();
         compareWithGio("https");
-        tree.write("config/mimeapps.list",
-                   "[Default Applications]\nx-scheme-handler/https=kde4-foo.desktop\n");
+        tree.write("config/mimeapps.list", XdgTree::defaults("https", "kde4-foo.desktop"));
         compareWithGio("https");
         QCOMPARE(db.defaultApplicationForScheme("https"), nested);
         QCOMPARE(db.locationForIdentifier("kde4-foo"), nested);
@@ -125,15 +122,12 @@ private slots:
     {
         XdgTree tree;
         installWeb(tree, "share2/applications", {"alpha", "beta"});
-        const auto setDefault = [](const char *id) -> QByteArray {
-            return "[Default Applications]\nx-scheme-handler/https=" + QByteArray(id) + "\n";
-        };
-        tree.write("config/mimeapps.list", setDefault("alpha.desktop"));
+        tree.write("config/mimeapps.list", XdgTree::defaults("https", "alpha.desktop"));
         QCOMPARE(defaultId("https"), "alpha.desktop");
         QCOMPARE(defaultId("https"), "alpha.desktop");
 
         // Replaced by rename, as xdg-mime writes it.
-        tree.write("config/mimeapps.list.new", setDefault("beta.desktop"));
+        tree.write("config/mimeapps.list.new", XdgTree::defaults("https", "beta.desktop"));
         QVERIFY(std::rename(QFile::encodeName(tree.path("config/mimeapps.list.new")),
                             QFile::encodeName(tree.path("config/mimeapps.list")))
                 == 0);
@@ -143,7 +137,7 @@ private slots:
         {
             const auto hold = db.holdReading();
             QCOMPARE(defaultId("https"), "beta.desktop");
-            tree.write("config/mimeapps.list", setDefault("alph.desktop"));
+            tree.write("config/mimeapps.list", XdgTree::defaults("https", "alph.desktop"));
             tree.entry("share2/applications", "alph.desktop", {}, {}, "Renamed");
         }
         QCOMPARE(defaultId("https"), "alph.desktop");
@@ -188,21 +182,19 @@ private slots:
         tree.entry(apps, "hidden.desktop", types, "Hidden=true\n");
         tree.entry(apps, "hiddenblank.desktop", types, "Hidden=true \t\n");
         tree.write(apps + "/typeblank.desktop", "[Desktop Entry]\nType=Application \nName=x\n");
-        tree.write(
-            apps + "/noprogram.desktop",
-            "[Desktop Entry]\nType=Application\nName=x\nExec=\"/nonexistent/dir/prog\" %u\n");
-        tree.write(apps + "/malformed.desktop",
-                   "[Desktop Entry]\nType=Application\nName=x\nthis line has no equals sign\n");
-        tree.write(apps + "/noexec.desktop", "[Desktop Entry]\nType=Application\nName=x\n");
+        const auto bare = [&](const char *file, const QByteArray &lines) {
+            tree.write(apps + u'/' + file, "[Desktop Entry]\nType=Application\nName=x\n" + lines);
+        };
+        bare("noprogram.desktop", "Exec=\"/nonexistent/dir/prog\" %u\n");
+        bare("malformed.desktop", "this line has no equals sign\n");
+        bare("noexec.desktop", {});
         tree.stub("relative-prog");
-        tree.write(apps + "/relative.desktop",
-                   "[Desktop Entry]\nType=Application\nName=x\nExec=relative-prog %u\n");
+        bare("relative.desktop", "Exec=relative-prog %u\n");
         tree.updateCaches();
         tree.write(
             "config/mimeapps.list",
-            "[Default Applications]\nx-scheme-handler/https=" + defaults
-                + "\n"
-                  "[Added Associations]\nx-scheme-handler/https=nodisplay.desktop;hidden.desktop;\n");
+            XdgTree::defaults("https", defaults.constData())
+                + "[Added Associations]\nx-scheme-handler/https=nodisplay.desktop;hidden.desktop;\n");
 
         compareWithGio("https");
         if (QTest::currentTestFailed())
@@ -253,9 +245,10 @@ private slots:
         XdgTree tree;
         installWeb(tree, "share1/applications", {"alpha", "beta", "gamma", "delta"});
         tree.entry("share1/applications", "epsilon.desktop", {});
-        tree.write("share1/applications/mimeapps.list",
-                   "[Default Applications]\nx-scheme-handler/https=gamma.desktop\n"
-                   "[Added Associations]\nx-scheme-handler/https=alpha.desktop;delta.desktop;\n");
+        tree.write(
+            "share1/applications/mimeapps.list",
+            XdgTree::defaults("https", "gamma.desktop")
+                + "[Added Associations]\nx-scheme-handler/https=alpha.desktop;delta.desktop;\n");
         tree.write("config/mimeapps.list", list);
         compareWithGio("https");
         if (QTest::currentTestFailed())
@@ -267,13 +260,11 @@ private slots:
     {
         XdgTree tree;
         installWeb(tree, "share1/applications", {"alpha", "beta", "gamma"});
-        tree.write("config/mimeapps.list",
-                   "[Default Applications]\nx-scheme-handler/https=alpha.desktop\n");
-        tree.write("config/xfce-mimeapps.list",
-                   "[Default Applications]\nx-scheme-handler/https=beta.desktop\n");
+        tree.write("config/mimeapps.list", XdgTree::defaults("https", "alpha.desktop"));
+        tree.write("config/xfce-mimeapps.list", XdgTree::defaults("https", "beta.desktop"));
         tree.write("etc/xdg/gnome-mimeapps.list",
-                   "[Default Applications]\nx-scheme-handler/https=gamma.desktop\n"
-                   "[Added Associations]\nx-scheme-handler/mailto=gamma.desktop;\n");
+                   XdgTree::defaults("https", "gamma.desktop")
+                       + "[Added Associations]\nx-scheme-handler/mailto=gamma.desktop;\n");
 
         compareWithGio("https");
         QCOMPARE(defaultId("https"), "alpha.desktop");
@@ -303,9 +294,9 @@ private slots:
                    "[Added Associations]\nx-scheme-handler/http=gamma.desktop;\n"
                    "[Removed Associations]\nx-scheme-handler/https=beta.desktop;\n");
         tree.write("config/mimeapps.list",
-                   "[Default Applications]\nx-scheme-handler/https=alpha.desktop\n"
-                   "[Removed Associations]\nx-scheme-handler/https=alpha.desktop;\n"
-                   "[Added Associations]\nx-scheme-handler/https=delta.desktop;\n");
+                   XdgTree::defaults("https", "alpha.desktop")
+                       + "[Removed Associations]\nx-scheme-handler/https=alpha.desktop;\n"
+                         "[Added Associations]\nx-scheme-handler/https=delta.desktop;\n");
         compareWithGio("https");
         compareWithGio("http");
         QCOMPARE(defaultId("https"), "alpha.desktop");

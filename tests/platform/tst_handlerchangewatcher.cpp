@@ -80,19 +80,16 @@ private Q_SLOTS:
     {
         watch(web, browsers);
         QVERIFY(changes([this] {
-            replace("config/mimeapps.list",
-                    "[Default Applications]\nx-scheme-handler/https=chromium.desktop\n");
+            replace("config/mimeapps.list", XdgTree::defaults("https", "chromium.desktop"));
         }));
         // A list where none was: in the system's config directory, and in a user config
         // directory made after watching began.
         QVERIFY(changes([this] {
-            m_tree->write("etc/xdg/mimeapps.list",
-                          "[Default Applications]\nx-scheme-handler/http=epiphany.desktop\n");
+            m_tree->write("etc/xdg/mimeapps.list", XdgTree::defaults("http", "epiphany.desktop"));
         }));
         QVERIFY(changes([this] { QVERIFY(QDir(m_tree->path("config")).removeRecursively()); }));
         QVERIFY(changes([this] {
-            m_tree->write("config/mimeapps.list",
-                          "[Default Applications]\nx-scheme-handler/https=firefox.desktop\n");
+            m_tree->write("config/mimeapps.list", XdgTree::defaults("https", "firefox.desktop"));
         }));
         // The entries of the programs followed: a user's copy that hides the shipped one,
         // and the cache the default falls back to.

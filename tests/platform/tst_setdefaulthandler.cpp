@@ -114,8 +114,7 @@ private slots:
     {
         XdgTree tree;
         installApps(tree);
-        tree.write("dotfiles/mimeapps.list",
-                   "[Default Applications]\nx-scheme-handler/https=alpha.desktop\n");
+        tree.write("dotfiles/mimeapps.list", XdgTree::defaults("https", "alpha.desktop"));
         QVERIFY(QFile::link("../dotfiles/mimeapps.list", tree.path("config/mimeapps.list")));
         QCOMPARE(db.setDefaultHandler("https", "gamma"), 0);
         QVERIFY(QFileInfo(tree.path("config/mimeapps.list")).isSymLink());
@@ -165,7 +164,7 @@ private slots:
         XdgTree tree;
         installApps(tree);
         tree.write("share1/applications/mimeapps.list",
-                   "[Default Applications]\nx-scheme-handler/https=gamma.desktop\n");
+                   XdgTree::defaults("https", "gamma.desktop"));
         const QByteArray before = "# mine\n"
                                   "[Default Applications]\n"
                                   "<<<<<<< HEAD\n"
@@ -224,8 +223,7 @@ private slots:
         XdgTree tree;
         installApps(tree);
         qputenv("XDG_CURRENT_DESKTOP", "GNOME");
-        const QByteArray gnome = "[Default Applications]\nx-scheme-handler/https=alpha.desktop\n"
-                                 "Name[x=y\n";
+        const QByteArray gnome = XdgTree::defaults("https", "alpha.desktop") + "Name[x=y\n";
         tree.write("config/gnome-mimeapps.list", gnome);
         QCOMPARE(db.setDefaultHandler("https", "beta"), 0);
         QCOMPARE(tree.read("config/gnome-mimeapps.list"), gnome);

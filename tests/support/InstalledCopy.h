@@ -11,10 +11,8 @@ class InstalledCopy {
 public:
     explicit InstalledCopy(const QString &buildDir)
     {
-        const ProgramRun install = runProgram(
-            QStringLiteral("cmake"),
-            {QStringLiteral("--install"), buildDir, QStringLiteral("--prefix"), m_prefix.path()},
-            120000, true);
+        const ProgramRun install =
+            runProgram("cmake", {"--install", buildDir, "--prefix", m_prefix.path()}, 120000, true);
         m_installed = install.succeeded();
         m_log = install.out;
     }

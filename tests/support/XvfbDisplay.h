@@ -14,11 +14,8 @@ class XvfbDisplay {
 public:
     XvfbDisplay()
     {
-        m_server.start(QStringLiteral("Xvfb"),
-                       {QStringLiteral("-displayfd"), QStringLiteral("1"),
-                        QStringLiteral("-screen"), QStringLiteral("0"),
-                        QStringLiteral("1280x800x24"), QStringLiteral("-nolisten"),
-                        QStringLiteral("tcp"), QStringLiteral("-r")});
+        m_server.start(
+            "Xvfb", {"-displayfd", "1", "-screen", "0", "1280x800x24", "-nolisten", "tcp", "-r"});
         QByteArray number;
         while (!number.contains('\n') && m_server.waitForReadyRead(20000))
             number += m_server.readAllStandardOutput();
