@@ -148,3 +148,19 @@ QString XdgTree::xdgMimeDefault(const QString &mimeType)
 {
     return runTool("xdg-mime", {"query", "default", mimeType}).trimmed();
 }
+
+bool XdgTree::xdgMimeSet(const QString &id, const QStringList &schemes)
+{
+    QStringList arguments{QStringLiteral("default"), id + u".desktop"};
+    for (const QString &scheme : schemes)
+        arguments.append(u"x-scheme-handler/" + scheme);
+    return runProgram(QStringLiteral("xdg-mime"), arguments, 30000).succeeded();
+}
+
+bool XdgTree::gioSet(const QString &scheme, const QString &id)
+{
+    return runProgram(QStringLiteral("gio"),
+                      {QStringLiteral("mime"), u"x-scheme-handler/" + scheme, id + u".desktop"},
+                      30000)
+        .succeeded();
+}

@@ -50,6 +50,10 @@ public:
     static GioAnswer gioMime(const QString &mimeType);
     // What `xdg-mime query default <type>` answers (empty for none).
     static QString xdgMimeDefault(const QString &mimeType);
+    // What other programs do: `xdg-mime default <id>.desktop` for the schemes' handler types,
+    // or `gio mime` for one; true if the tool succeeded.
+    static bool xdgMimeSet(const QString &id, const QStringList &schemes);
+    static bool gioSet(const QString &scheme, const QString &id);
 
 private:
     QTemporaryDir m_dir;

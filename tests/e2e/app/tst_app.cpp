@@ -113,15 +113,20 @@ class AppTest : public QObject {
             [&] { return (out += program.readAllStandardOutput()).contains(text); }, 20000);
     }
 
-    void writeMismatchingTarget()
+    // Starts the program as launch() does and waits until it has started.
+    static bool start(QProcess &program, const QString &runtime = {}, const QString &shell = {})
     {
-        QVERIFY(run(QStringLiteral("gio"), {"mime", "x-scheme-handler/https", "chromium.desktop"}));
-        QVERIFY(run(QStringLiteral("gio"), {"mime", "x-scheme-handler/http", "chromium.desktop"}));
-        m_tree->write(
-            settingsFile,
-            "[General]\nhasLaunchedBefore=true\nmonitoringEnabled=true\ncheckInterval=10min\n"
-            "checkOnLogin=true\n"
-                + firefoxTarget);
+        launch(program, {}, shell, runtime);
+        QByteArray out;
+        return printed(program, out, "🚀 App launched");
+    }
+
+    // A started program's settings: the browser guarded, Firefox ESR its target.
+    void writeFirefoxTarget() const
+    {
+        m_tree->write(settingsFile, "[General]\nhasLaunchedBefore=true\nmonitoringEnabled=true\n"
+                                    "checkInterval=10min\ncheckOnLogin=true\n"
+                                        + firefoxTarget);
     }
 
 private Q_SLOTS:
@@ -141,19 +146,15 @@ private Q_SLOTS:
 
     void statusFollowsWhatGioResolves()
     {
-        QVERIFY(
-            run(QStringLiteral("xdg-mime"), {"default", "firefox-esr.desktop",
-                                             "x-scheme-handler/https", "x-scheme-handler/http"}));
-        QVERIFY(run(QStringLiteral("xdg-mime"),
-                    {"default", "thunderbird.desktop", "x-scheme-handler/mailto"}));
+        QVERIFY(XdgTree::xdgMimeSet("firefox-esr", {"https", "http"}));
+        QVERIFY(XdgTree::xdgMimeSet("thunderbird", {"mailto"}));
         QJsonObject report = status();
         QCOMPARE(currentId(report, "browser"), QString("firefox-esr"));
         QCOMPARE(currentId(report, "browser"), gioDefault("https"));
         QCOMPARE(currentId(report, "email"), gioDefault("mailto"));
 
-        QVERIFY(run(QStringLiteral("gio"), {"mime", "x-scheme-handler/https", "chromium.desktop"}));
-        QVERIFY(
-            run(QStringLiteral("gio"), {"mime", "x-scheme-handler/mailto", "claws-mail.desktop"}));
+        QVERIFY(XdgTree::gioSet("https", "chromium"));
+        QVERIFY(XdgTree::gioSet("mailto", "claws-mail"));
         report = status();
         QCOMPARE(currentId(report, "browser"), QString("chromium"));
         QCOMPARE(currentId(report, "browser"), gioDefault("https"));
@@ -186,13 +187,11 @@ private Q_SLOTS:
     // mimeapps.list says.
     void statusReportsTheDesktopsOwnSetting()
     {
-        QVERIFY(run(QStringLiteral("xdg-mime"),
-                    {"default", "firefox-esr.desktop", "x-scheme-handler/https"}));
+        QVERIFY(XdgTree::xdgMimeSet("firefox-esr", {"https"}));
         installXfceHelper();
         qputenv("XDG_CURRENT_DESKTOP", "XFCE");
         QCOMPARE(currentId(status(), "browser"), QString("firefox-esr"));
-        QVERIFY(run(QStringLiteral("xdg-settings"),
-                    {"set", "default-web-browser", "chromium.desktop"}));
+        QVERIFY(run("xdg-settings", {"set", "default-web-browser", "chromium.desktop"}));
         QCOMPARE(currentId(status(), "browser"), QString("chromium"));
         QCOMPARE(gioDefault("https"), QString("firefox-esr"));
 
@@ -221,15 +220,11 @@ private Q_SLOTS:
     void aTakeoverIsSeenAtOnceWithATenMinuteInterval()
     {
         QFETCH(QByteArray, desktop);
-        QVERIFY(
-            run(QStringLiteral("xdg-mime"), {"default", "firefox-esr.desktop",
-                                             "x-scheme-handler/https", "x-scheme-handler/http"}));
+        QVERIFY(XdgTree::xdgMimeSet("firefox-esr", {"https", "http"}));
         installXfceHelper();
         m_tree->write(QStringLiteral("config/kdeglobals"),
                       "[General]\nBrowserApplication=firefox-esr.desktop\n");
-        m_tree->write(settingsFile, "[General]\nhasLaunchedBefore=true\nmonitoringEnabled=true\n"
-                                    "checkInterval=10min\n"
-                                        + firefoxTarget);
+        writeFirefoxTarget();
         if (!desktop.isEmpty())
             qputenv("XDG_CURRENT_DESKTOP", desktop);
         QProcess program;
@@ -240,12 +235,9 @@ private Q_SLOTS:
             m_tree->write(QStringLiteral("config/kdeglobals"),
                           "[General]\nBrowserApplication=chromium.desktop\n");
         else if (desktop == "XFCE")
-            QVERIFY(run(QStringLiteral("xdg-settings"),
-                        {"set", "default-web-browser", "chromium.desktop"}));
+            QVERIFY(run("xdg-settings", {"set", "default-web-browser", "chromium.desktop"}));
         else
-            QVERIFY(run(QStringLiteral("xdg-mime"),
-                        {"default", "chromium.desktop", "x-scheme-handler/https",
-                         "x-scheme-handler/http"}));
+            QVERIFY(XdgTree::xdgMimeSet("chromium", {"https", "http"}));
         QVERIFY(printed(program, out,
                         "📝 Log: Browser changed from Firefox ESR to Chromium Web Browser"));
         program.kill();
@@ -298,9 +290,7 @@ private Q_SLOTS:
         QVERIFY(QDir(m_tree->path(QStringLiteral("runtime"))).isEmpty());
 
         QProcess first;
-        launch(first);
-        QByteArray out;
-        QVERIFY(printed(first, out, "🚀 App launched"));
+        QVERIFY(start(first));
         QCOMPARE(ask({QStringLiteral("--bogus")}).exitCode, 2);
         QCOMPARE(ask({QStringLiteral("-v")}).out, version);
         QCOMPARE(first.state(), QProcess::Running);
@@ -346,15 +336,6 @@ private Q_SLOTS:
         again.waitForFinished(5000);
     }
 
-    // Starts the program with its own runtime directory and waits until it has started.
-    static bool startInOwnRuntime(QProcess &program, const QTemporaryDir &runtime,
-                                  const QString &shell = QStringLiteral("exec \"$0\""))
-    {
-        launch(program, {}, shell, runtime.path());
-        QByteArray out;
-        return printed(program, out, "🚀 App launched");
-    }
-
     // The signals a process ignores and catches, from the kernel.
     static QSet<int> signalsOf(qint64 pid, const char *field)
     {
@@ -382,7 +363,7 @@ private Q_SLOTS:
     {
         QTemporaryDir runtime;
         QProcess program;
-        QVERIFY(startInOwnRuntime(program, runtime));
+        QVERIFY(start(program, runtime.path()));
         const QSet<int> quits{SIGTERM, SIGINT, SIGHUP};
         QCOMPARE(signalsOf(program.processId(), "SigCgt") & quits, quits);
         const QString lock = runtime.filePath(QString::fromUtf8(BuildConfig::appId) + u".lock");
@@ -393,7 +374,7 @@ private Q_SLOTS:
         QCOMPARE(program.exitCode(), 0);
         QVERIFY(!QFile::exists(lock));
 
-        QVERIFY(startInOwnRuntime(program, runtime, QStringLiteral("trap '' HUP; exec \"$0\"")));
+        QVERIFY(start(program, runtime.path(), QStringLiteral("trap '' HUP; exec \"$0\"")));
         QVERIFY(signalsOf(program.processId(), "SigIgn").contains(SIGHUP));
         QCOMPARE(signalsOf(program.processId(), "SigCgt") & quits, (QSet<int>{SIGTERM, SIGINT}));
         program.terminate();
@@ -405,7 +386,9 @@ private Q_SLOTS:
     // checks once more a little later (when, the guard's own tests say).
     void aLaunchAtLoginChecksAgain()
     {
-        writeMismatchingTarget();
+        QVERIFY(XdgTree::gioSet("https", "chromium"));
+        QVERIFY(XdgTree::gioSet("http", "chromium"));
+        writeFirefoxTarget();
         for (const bool atLogin : {true, false}) {
             QProcess program;
             launch(program, atLogin ? QStringList{"--login"} : QStringList{});

@@ -26,12 +26,6 @@ class SystemEventsTest : public QObject {
 
     std::unique_ptr<PrivateBuses> m_buses;
 
-    QDBusConnection screenSaverBus()
-    {
-        return QDBusConnection::connectToBus(m_buses->sessionAddress(),
-                                             QStringLiteral("screensaver"));
-    }
-
     static void
     screenSaverActive(QDBusConnection &bus, bool active,
                       const QString &path = QStringLiteral("/org/freedesktop/ScreenSaver"))
@@ -92,7 +86,8 @@ private Q_SLOTS:
     void aScreenSaverOnTheSessionBusIsTheUnlockSource()
     {
         FakeLogind logind(m_buses->systemAddress());
-        QDBusConnection saver = screenSaverBus();
+        QDBusConnection saver =
+            QDBusConnection::connectToBus(m_buses->sessionAddress(), QStringLiteral("screensaver"));
         QVERIFY(saver.registerService(QStringLiteral("org.freedesktop.ScreenSaver")));
         const auto cleanup = qScopeGuard([&] {
             saver.unregisterService(QStringLiteral("org.freedesktop.ScreenSaver"));

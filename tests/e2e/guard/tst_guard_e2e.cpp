@@ -1,5 +1,4 @@
 #include "../../core/guard/GuardWorld.h"
-#include "ProgramRun.h"
 #include "XdgTree.h"
 #include "core/guard/BrowserManager.h"
 #include "core/guard/DefaultFileMonitor.h"
@@ -7,7 +6,6 @@
 #include "platform/freedesktop/FreedesktopHandlerDatabase.h"
 
 #include <QDir>
-#include <QProcess>
 
 #include <memory>
 
@@ -18,15 +16,6 @@ class GuardEndToEndTest : public QObject {
     Q_OBJECT
 
     std::unique_ptr<XdgTree> m_tree;
-
-    // What another program does: xdg-mime writes the user's mimeapps.list.
-    static bool xdgMimeDefault(const QString &id, const QStringList &schemes)
-    {
-        QStringList arguments{"default", id + u".desktop"};
-        for (const QString &scheme : schemes)
-            arguments.append(u"x-scheme-handler/" + scheme);
-        return runProgram(QStringLiteral("xdg-mime"), arguments, 30000).succeeded();
-    }
 
     // The guard world with the real handler database in place of its fake one.
     struct Rig : GuardWorld {
@@ -96,15 +85,14 @@ private Q_SLOTS:
         QFETCH(QString, tool);
         Rig rig;
         rig.env.changeWatchers = [] { return std::make_unique<FreedesktopHandlerChangeWatcher>(); };
-        QVERIFY(xdgMimeDefault("firefox", {"https", "http"}));
+        QVERIFY(XdgTree::xdgMimeSet("firefox", {"https", "http"}));
         BrowserManager browser(rig.env);
         browser.setTarget(browser.currentDefault());
 
         if (tool == u"xdg-mime")
-            QVERIFY(xdgMimeDefault("chromium", {"https", "http"}));
+            QVERIFY(XdgTree::xdgMimeSet("chromium", {"https", "http"}));
         else if (tool == u"gio")
-            QVERIFY(runProgram("gio", {"mime", "x-scheme-handler/https", "chromium.desktop"})
-                        .succeeded());
+            QVERIFY(XdgTree::gioSet("https", "chromium"));
         else
             m_tree->write("config/mimeapps.list",
                           m_tree->read("config/mimeapps.list")

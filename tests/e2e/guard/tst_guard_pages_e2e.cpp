@@ -16,10 +16,6 @@ class GuardPagesEndToEndTest : public QObject {
     {
         return XdgTree::gioMime(u"x-scheme-handler/" + scheme).defaultId;
     }
-    static bool shows(const QWidget *page, const char *name)
-    {
-        return control(page, name)->isVisible();
-    }
 
 private Q_SLOTS:
     void setNowChangesTheDefault_data()
@@ -40,11 +36,8 @@ private Q_SLOTS:
         QFETCH(QString, before);
         QFETCH(QString, target);
         GuardPageRig rig;
-        std::unique_ptr<GuardSettingsView> page;
-        if (mail)
-            page = rig.emailPage();
-        else
-            page = rig.browserPage();
+        const std::unique_ptr<GuardSettingsView> page =
+            mail ? std::unique_ptr<GuardSettingsView>(rig.emailPage()) : rig.browserPage();
         HandlerGuard &guard = mail ? static_cast<HandlerGuard &>(rig.email)
                                    : static_cast<HandlerGuard &>(rig.browser);
         for (const QString &scheme : schemes)

@@ -49,10 +49,9 @@ struct Rig : ShellWorld {
         options.endpointURL = QUrl(server.baseUrl() + u"/api/feedback");
         options.apiKey = apiKey;
         options.network = &network;
-        view = std::make_unique<FeedbackView>(options, language, world.alerts, world.telemetry);
-        view->resize(560, 760);
-        view->show();
-        static_cast<void>(QTest::qWaitForWindowExposed(view.get()));
+        view =
+            shown(std::make_unique<FeedbackView>(options, language, world.alerts, world.telemetry),
+                  {560, 760});
     }
 
     QPlainTextEdit *edit() const { return view->textEdit(); }

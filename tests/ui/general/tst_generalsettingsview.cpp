@@ -33,8 +33,6 @@ using namespace std::chrono_literals;
 
 namespace {
 
-constexpr QSize pageSize(549, 550);
-
 // The page over both guards, a loopback feed, and a Homebrew install when asked for.
 struct Rig : ShellWorld {
     ConsoleCapture console;
@@ -69,10 +67,7 @@ struct Rig : ShellWorld {
 
     GeneralSettingsView &show()
     {
-        view = std::make_unique<GeneralSettingsView>(env);
-        view->resize(pageSize);
-        view->show();
-        static_cast<void>(QTest::qWaitForWindowExposed(view.get()));
+        view = shown(std::make_unique<GeneralSettingsView>(env));
         return *view;
     }
     // The settings the page reported, as "setting=value".

@@ -54,21 +54,13 @@ struct GuardPageRig : GuardPageTree, ShellWorld {
         return {language, world.clock, world.timers, world.alerts};
     }
 
-    template <typename Page>
-    std::unique_ptr<Page> shown(std::unique_ptr<Page> page) const
-    {
-        page->resize(700, 550);
-        page->show();
-        static_cast<void>(QTest::qWaitForWindowExposed(page.get()));
-        return page;
-    }
     std::unique_ptr<BrowserSettingsView> browserPage()
     {
-        return shown(std::make_unique<BrowserSettingsView>(browser, services()));
+        return shown(std::make_unique<BrowserSettingsView>(browser, services()), {700, 550});
     }
     std::unique_ptr<EmailSettingsView> emailPage()
     {
-        return shown(std::make_unique<EmailSettingsView>(email, services()));
+        return shown(std::make_unique<EmailSettingsView>(email, services()), {700, 550});
     }
 
     // The poll of the guard's running change, if it polls (the pages' own timers may also
@@ -91,6 +83,11 @@ Widget *control(const QWidget *page, const char *name)
     if (!widget)
         qFatal("no control named %s", name);
     return widget;
+}
+
+inline bool shows(const QWidget *page, const char *name)
+{
+    return control(page, name)->isVisible();
 }
 
 // Chooses the entry of that text in a picker as the user does, with the arrow keys.

@@ -18,10 +18,6 @@ using namespace std::chrono_literals;
 class GuardSettingsViewTest : public QObject {
     Q_OBJECT
 
-    static bool shows(const QWidget *page, const char *name)
-    {
-        return control(page, name)->isVisible();
-    }
     // The one of the three states of the target box's action row that shows.
     static QString actionShown(const QWidget *page)
     {

@@ -21,9 +21,6 @@ using namespace std::chrono_literals;
 
 namespace {
 
-// The room the settings window gives a page.
-constexpr QSize pageSize(549, 550);
-
 // A page the size the settings window gives it, over a log of its own.
 struct Rig : ShellWorld {
     ConsoleCapture console;
@@ -44,11 +41,8 @@ struct Rig : ShellWorld {
     }
     LogView &show()
     {
-        view =
-            std::make_unique<LogView>(language, world.log, world.clock, world.timers, world.alerts);
-        view->resize(pageSize);
-        view->show();
-        static_cast<void>(QTest::qWaitForWindowExposed(view.get()));
+        view = shown(std::make_unique<LogView>(language, world.log, world.clock, world.timers,
+                                               world.alerts));
         return *view;
     }
     QStringList shownMessages() const

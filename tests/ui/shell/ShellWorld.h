@@ -9,6 +9,9 @@
 #include "ui/WindowRouter.h"
 
 #include <QStringList>
+#include <QTest>
+
+#include <memory>
 
 // Both guards over a GuardWorld (current defaults Firefox and Thunderbird) and the views'
 // environment over them, with a router whose window requests are recorded and then handed
@@ -80,6 +83,16 @@ struct ShellWorld {
         world.timers.fire(std::chrono::milliseconds(50));
     }
     QString text(const char *key) const { return language.localizedString(QLatin1String(key)); }
+
+    // The page at the size the settings window gives it (or `size`), once it is on screen.
+    template <typename Page>
+    static std::unique_ptr<Page> shown(std::unique_ptr<Page> page, QSize size = {549, 550})
+    {
+        page->resize(size);
+        page->show();
+        static_cast<void>(QTest::qWaitForWindowExposed(page.get()));
+        return page;
+    }
 
 private:
     static void set(HandlerGuard &guard, Mode mode, const HandlerRecord &current,

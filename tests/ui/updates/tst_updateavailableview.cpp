@@ -1,12 +1,9 @@
-#include "core/i18n/LanguageManager.h"
 #include "ui/InlineMarkdown.h"
 #include "ui/UpdateAvailableView.h"
 #include "ui/UpdateSheetDialogPresenter.h"
 
-#include "ConsoleCapture.h"
-#include "FakeTimerFactory.h"
 #include "PageChecks.h"
-#include "TempSettings.h"
+#include "ShellWorld.h"
 
 #include <QApplication>
 #include <QClipboard>
@@ -20,19 +17,10 @@ using namespace std::chrono_literals;
 
 namespace {
 
-// English texts, fake timers, and a private store behind the shared objects.
-class Rig {
-public:
-    Rig() : language(settings.store(), timers, {})
-    {
-        SettingsStore::setStandard(&settings.store());
-        LanguageManager::setShared(&language);
-    }
-    ~Rig()
-    {
-        LanguageManager::setShared(nullptr);
-        SettingsStore::setStandard(nullptr);
-    }
+// English texts over fake timers, with the shared language set.
+struct Rig : ShellWorld {
+    ConsoleCapture console;
+    FakeTimerFactory &timers = world.timers;
 
     std::unique_ptr<UpdateAvailableView> sheet(const QString &version, bool isBrewInstall,
                                                std::function<void()> onDismiss = {})
@@ -42,12 +30,6 @@ public:
         view->show();
         return QTest::qWaitForWindowExposed(view.get()) ? std::move(view) : nullptr;
     }
-    QString text(const char *key) const { return language.localizedString(key); }
-
-    ConsoleCapture console;
-    TempSettings settings;
-    FakeTimerFactory timers;
-    LanguageManager language;
 };
 
 // Whether the copy button shows the green tick rather than the grey copy symbol.
