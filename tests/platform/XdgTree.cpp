@@ -4,7 +4,6 @@
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
-#include <QProcess>
 #include <QRegularExpression>
 
 namespace {
@@ -12,11 +11,6 @@ namespace {
 const QList<QByteArray> managedVariables{"HOME",          "XDG_CONFIG_HOME", "XDG_CONFIG_DIRS",
                                          "XDG_DATA_HOME", "XDG_DATA_DIRS",   "XDG_CURRENT_DESKTOP",
                                          "PATH",          "XDG_RUNTIME_DIR"};
-
-QString runTool(const QString &program, const QStringList &arguments)
-{
-    return runProgram(program, arguments, 30000).text();
-}
 
 } // namespace
 
@@ -123,13 +117,13 @@ void XdgTree::updateCaches() const
 {
     for (const char *dir :
          {"local/share/applications", "share1/applications", "share2/applications"})
-        runTool("update-desktop-database", {path(QLatin1String(dir))});
+        runProgram("update-desktop-database", {path(QLatin1String(dir))}, 30000);
 }
 
 XdgTree::GioAnswer XdgTree::gioMime(const QString &mimeType)
 {
     GioAnswer answer;
-    const QStringList lines = runTool("gio", {"mime", mimeType}).split(u'\n');
+    const QStringList lines = runProgram("gio", {"mime", mimeType}, 30000).text().split(u'\n');
     bool inRegistered = false;
     for (const QString &line : lines) {
         if (line.startsWith("Default application for")) {
@@ -146,7 +140,7 @@ XdgTree::GioAnswer XdgTree::gioMime(const QString &mimeType)
 
 QString XdgTree::xdgMimeDefault(const QString &mimeType)
 {
-    return runTool("xdg-mime", {"query", "default", mimeType}).trimmed();
+    return runProgram("xdg-mime", {"query", "default", mimeType}, 30000).text().trimmed();
 }
 
 bool XdgTree::xdgMimeSet(const QString &id, const QStringList &schemes)

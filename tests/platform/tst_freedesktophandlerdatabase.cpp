@@ -14,7 +14,7 @@ class TestFreedesktopHandlerDatabase : public QObject {
     Q_OBJECT
 
 private:
-    static constexpr QByteArrayView web = "x-scheme-handler/http;x-scheme-handler/https;";
+    static inline const QByteArray web = "x-scheme-handler/http;x-scheme-handler/https;";
     FreedesktopHandlerDatabase db;
 
     QString defaultId(const QString &scheme) const
@@ -26,7 +26,7 @@ private:
                            std::initializer_list<const char *> names)
     {
         for (const char *name : names)
-            tree.entry(QLatin1String(dir), QLatin1String(name) + ".desktop", web.toByteArray());
+            tree.entry(QLatin1String(dir), QLatin1String(name) + ".desktop", web);
         tree.updateCaches();
     }
 
@@ -93,7 +93,7 @@ private slots:
     void desktopIds()
     {
         XdgTree tree;
-        tree.entry("share2/applications", "web.desktop", web.toByteArray());
+        tree.entry("share2/applications", "web.desktop", web);
         const QString upper = tree.entry("share1/applications", "web.desktop", {});
         tree.updateCaches();
         // The upper copy declares no types, so share1's cache doesn't list it, and share2's
@@ -105,9 +105,8 @@ private slots:
         compareWithGio("https");
         QCOMPARE(db.defaultApplicationForScheme("https"), upper);
 
-        const QString nested =
-            tree.entry("share1/applications/kde4", "foo.desktop", web.toByteArray());
-        tree.entry("share1/applications", "kde4-bar.desktop", web.toByteArray());
+        const QString nested = tree.entry("share1/applications/kde4", "foo.desktop", web);
+        tree.entry("share1/applications", "kde4-bar.desktop", web);
         tree.updateCaches();
         compareWithGio("https");
         tree.write("config/mimeapps.list", XdgTree::defaults("https", "kde4-foo.desktop"));
@@ -174,13 +173,12 @@ private slots:
         QFETCH(QString, expected);
         XdgTree tree;
         const QString apps = "share1/applications";
-        const QByteArray types = web.toByteArray();
-        tree.entry(apps, "plain.desktop", types);
-        tree.entry(apps, "tryexec.desktop", types, "TryExec=/nonexistent/tryexec\n");
-        tree.entry(apps, "link.desktop", types, "Type=Link\nURL=https://127.0.0.1/\n");
+        tree.entry(apps, "plain.desktop", web);
+        tree.entry(apps, "tryexec.desktop", web, "TryExec=/nonexistent/tryexec\n");
+        tree.entry(apps, "link.desktop", web, "Type=Link\nURL=https://127.0.0.1/\n");
         tree.entry(apps, "nodisplay.desktop", {}, "NoDisplay=true\n");
-        tree.entry(apps, "hidden.desktop", types, "Hidden=true\n");
-        tree.entry(apps, "hiddenblank.desktop", types, "Hidden=true \t\n");
+        tree.entry(apps, "hidden.desktop", web, "Hidden=true\n");
+        tree.entry(apps, "hiddenblank.desktop", web, "Hidden=true \t\n");
         tree.write(apps + "/typeblank.desktop", "[Desktop Entry]\nType=Application \nName=x\n");
         const auto bare = [&](const char *file, const QByteArray &lines) {
             tree.write(apps + u'/' + file, "[Desktop Entry]\nType=Application\nName=x\n" + lines);

@@ -10,30 +10,27 @@ private slots:
     {
         QTest::addColumn<QByteArray>("before");
         QTest::addColumn<QByteArray>("after");
-        QTest::newRow("empty file") << QByteArray() << QByteArray("[Default Applications]\nk=v\n");
-        QTest::newRow("other group")
-            << QByteArray("[Added Associations]\na=b;\n")
-            << QByteArray("[Added Associations]\na=b;\n\n[Default Applications]\nk=v\n");
-        QTest::newRow("no final newline")
-            << QByteArray("[Added Associations]\na=b;")
-            << QByteArray("[Added Associations]\na=b;\n\n[Default Applications]\nk=v\n");
-        QTest::newRow("CRLF")
-            << QByteArray("[Added Associations]\r\na=b;\r\n")
-            << QByteArray("[Added Associations]\r\na=b;\r\n\r\n[Default Applications]\r\nk=v\r\n");
-        QTest::newRow("key after the group's last key")
-            << QByteArray("[Default Applications]\na=b\n# note\n\n[Other]\nc=d\n")
-            << QByteArray("[Default Applications]\na=b\nk=v\n# note\n\n[Other]\nc=d\n");
-        QTest::newRow("group at end without newline")
-            << QByteArray("# x\r\n[Default Applications]\r\na=b")
-            << QByteArray("# x\r\n[Default Applications]\r\na=b\r\nk=v\r\n");
-        QTest::newRow("repeated key: last rewritten, repeat dropped")
-            << QByteArray("[Default Applications]\nk=a\nx=y\nk=b\n")
-            << QByteArray("[Default Applications]\nx=y\nk=v\n");
-        QTest::newRow("same key in another group untouched")
-            << QByteArray("[Added Associations]\nk=a;\n[Default Applications]\nk=old\n")
-            << QByteArray("[Added Associations]\nk=a;\n[Default Applications]\nk=v\n");
-        QTest::newRow("unchanged value") << QByteArray("[Default Applications]\r\nk=v")
-                                         << QByteArray("[Default Applications]\r\nk=v");
+        const auto row = [](const char *name, const QByteArray &before, const QByteArray &after) {
+            QTest::newRow(name) << before << after;
+        };
+        row("empty file", {}, "[Default Applications]\nk=v\n");
+        row("other group", "[Added Associations]\na=b;\n",
+            "[Added Associations]\na=b;\n\n[Default Applications]\nk=v\n");
+        row("no final newline", "[Added Associations]\na=b;",
+            "[Added Associations]\na=b;\n\n[Default Applications]\nk=v\n");
+        row("CRLF", "[Added Associations]\r\na=b;\r\n",
+            "[Added Associations]\r\na=b;\r\n\r\n[Default Applications]\r\nk=v\r\n");
+        row("key after the group's last key",
+            "[Default Applications]\na=b\n# note\n\n[Other]\nc=d\n",
+            "[Default Applications]\na=b\nk=v\n# note\n\n[Other]\nc=d\n");
+        row("group at end without newline", "# x\r\n[Default Applications]\r\na=b",
+            "# x\r\n[Default Applications]\r\na=b\r\nk=v\r\n");
+        row("repeated key: last rewritten, repeat dropped",
+            "[Default Applications]\nk=a\nx=y\nk=b\n", "[Default Applications]\nx=y\nk=v\n");
+        row("same key in another group untouched",
+            "[Added Associations]\nk=a;\n[Default Applications]\nk=old\n",
+            "[Added Associations]\nk=a;\n[Default Applications]\nk=v\n");
+        row("unchanged value", "[Default Applications]\r\nk=v", "[Default Applications]\r\nk=v");
     }
 
     void addsKeysAndGroups()

@@ -15,14 +15,14 @@ class TestSetDefaultHandler : public QObject {
     Q_OBJECT
 
 private:
-    static constexpr QByteArrayView web =
+    static inline const QByteArray web =
         "x-scheme-handler/http;x-scheme-handler/https;x-scheme-handler/mailto;";
     FreedesktopHandlerDatabase db;
 
     static void installApps(const XdgTree &tree)
     {
         for (const char *name : {"alpha", "beta", "gamma"})
-            tree.entry("share1/applications", QLatin1String(name) + ".desktop", web.toByteArray());
+            tree.entry("share1/applications", QLatin1String(name) + ".desktop", web);
         tree.updateCaches();
     }
 
