@@ -9,8 +9,6 @@
 #include <QDir>
 #include <QFile>
 #include <QImage>
-#include <QProcess>
-#include <QRegularExpression>
 #include <QTest>
 
 // `cmake --install` into a temporary prefix lays out what desktops and Debian look for,
@@ -133,10 +131,8 @@ private Q_SLOTS:
     {
         for (const char *file :
              {"share/man/man1/vandorel.1.gz", "share/doc/vandorel/changelog.gz"}) {
-            QProcess gunzip;
-            gunzip.start("gunzip", {"-c", m_copy->path(file)});
-            QVERIFY(gunzip.waitForFinished(10000));
-            QVERIFY2(gunzip.readAll().contains(BuildConfig::appVersion), file);
+            const ProgramRun gunzip = runProgram("gunzip", {"-c", m_copy->path(file)}, 10000);
+            QVERIFY2(gunzip.succeeded() && gunzip.out.contains(BuildConfig::appVersion), file);
         }
         const QByteArray copyright = read(m_copy->path("share/doc/vandorel/copyright"));
         QVERIFY(copyright.startsWith("Format: https://www.debian.org/doc/packaging-manuals/"

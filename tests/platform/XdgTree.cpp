@@ -145,16 +145,14 @@ QString XdgTree::xdgMimeDefault(const QString &mimeType)
 
 bool XdgTree::xdgMimeSet(const QString &id, const QStringList &schemes)
 {
-    QStringList arguments{QStringLiteral("default"), id + u".desktop"};
+    QStringList arguments{"default", id + u".desktop"};
     for (const QString &scheme : schemes)
         arguments.append(u"x-scheme-handler/" + scheme);
-    return runProgram(QStringLiteral("xdg-mime"), arguments, 30000).succeeded();
+    return runProgram("xdg-mime", arguments, 30000).succeeded();
 }
 
 bool XdgTree::gioSet(const QString &scheme, const QString &id)
 {
-    return runProgram(QStringLiteral("gio"),
-                      {QStringLiteral("mime"), u"x-scheme-handler/" + scheme, id + u".desktop"},
-                      30000)
+    return runProgram("gio", {"mime", u"x-scheme-handler/" + scheme, id + u".desktop"}, 30000)
         .succeeded();
 }

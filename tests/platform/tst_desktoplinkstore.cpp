@@ -4,7 +4,6 @@
 #include "XdgTree.h"
 
 #include <QFileInfo>
-#include <QProcess>
 #include <QTest>
 
 // The desktops' own settings over real entries of Debian's packages and the helpers of
@@ -26,11 +25,6 @@ class DesktopLinkStoreTest : public QObject {
         return application ? application->identifier : QString();
     }
 
-    static bool run(const QString &program, const QStringList &arguments)
-    {
-        return runProgram(program, arguments).succeeded();
-    }
-
 private Q_SLOTS:
     void init()
     {
@@ -42,9 +36,9 @@ private Q_SLOTS:
                                           "share1/applications")
                          .isEmpty());
         m_tree->updateCaches();
-        QVERIFY(run("gio", {"mime", "x-scheme-handler/https", "firefox-esr.desktop"}));
-        QVERIFY(run("gio", {"mime", "x-scheme-handler/http", "firefox-esr.desktop"}));
-        QVERIFY(run("gio", {"mime", "x-scheme-handler/mailto", "org.gnome.Evolution.desktop"}));
+        QVERIFY(XdgTree::gioSet("https", "firefox-esr"));
+        QVERIFY(XdgTree::gioSet("http", "firefox-esr"));
+        QVERIFY(XdgTree::gioSet("mailto", "org.gnome.Evolution"));
         m_diagnostics.clear();
         m_db.setDiagnostics([this](const QString &line) { m_diagnostics << line; });
     }
@@ -74,7 +68,8 @@ private Q_SLOTS:
 
         // xdg-settings writes helpers.rc alone; without a shipped helper it makes one from the
         // entry (whose X-XFCE-Commands name the program). A shipped one: the program's test.
-        QVERIFY(run("xdg-settings", {"set", "default-web-browser", "firefox-esr.desktop"}));
+        QVERIFY(runProgram("xdg-settings", {"set", "default-web-browser", "firefox-esr.desktop"})
+                    .succeeded());
         QCOMPARE(defaultId("https"), QString("firefox-esr"));
         QCOMPARE(defaultId("http"), QString("firefox-esr"));
 

@@ -65,8 +65,7 @@ private Q_SLOTS:
         m_tree->entry("share1/applications", "chromium.desktop", web);
         m_tree->entry("share2/applications", "epiphany.desktop", web);
         m_tree->updateCaches();
-        QVERIFY(runProgram("xdg-mime", {"default", "firefox.desktop", "x-scheme-handler/https"})
-                    .succeeded());
+        QVERIFY(XdgTree::xdgMimeSet("firefox", {"https"}));
     }
     void cleanup()
     {
