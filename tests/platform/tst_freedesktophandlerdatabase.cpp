@@ -304,9 +304,7 @@ private slots:
     {
         XdgTree tree;
         for (const char *name : {"firefox-esr", "chromium", "thunderbird"})
-            QVERIFY(!tree.installFixture(qEnvironmentVariable("VANDOREL_SOURCE_DIR")
-                                             + u"/tests/platform/fixtures/" + QLatin1String(name)
-                                             + u".desktop",
+            QVERIFY(!tree.installFixture(FIXTURES_DIR "/" + QString(name) + ".desktop",
                                          "share2/applications")
                          .isEmpty());
         tree.updateCaches();
