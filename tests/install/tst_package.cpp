@@ -15,36 +15,31 @@ class PackageTest : public QObject {
     QTemporaryDir m_dir;
     QString m_deb;
 
-    struct Result {
-        int exitCode = -1;
-        QString out;
-    };
-
-    static Result run(const QString &program, const QStringList &arguments, bool merged = false)
+    static ProgramRun run(const QString &program, const QStringList &arguments, bool merged = false)
     {
-        const ProgramRun run = runProgram(program, arguments, 300000, merged);
-        return {run.exitCode, run.exitCode < 0 ? program + u" did not finish" : run.text()};
+        return runProgram(program, arguments, 300000, merged);
     }
 
     QString field(const char *name) const
     {
-        return run("dpkg-deb", {"--field", m_deb, QLatin1StringView(name)}).out.trimmed();
+        return run("dpkg-deb", {"--field", m_deb, QLatin1StringView(name)}).text().trimmed();
     }
 
 private Q_SLOTS:
     void initTestCase()
     {
-        const Result pack =
+        const ProgramRun pack =
             run("cpack",
                 {"--config", QStringLiteral(VANDOREL_BUILD_DIR "/CPackConfig.cmake"), "-B",
                  m_dir.path()},
                 true);
-        QVERIFY2(pack.exitCode == 0, qPrintable(pack.out));
+        QVERIFY2(pack.exitCode == 0, qPrintable(pack.text()));
         const QStringList debs = QDir(m_dir.path()).entryList({"*.deb"});
         QCOMPARE(debs.size(), 1);
         m_deb = m_dir.filePath(debs.first());
         QCOMPARE(debs.first(), u"vandorel_" + QLatin1StringView(BuildConfig::appVersion) + u"_"
-                                   + run("dpkg", {"--print-architecture"}).out.trimmed() + u".deb");
+                                   + run("dpkg", {"--print-architecture"}).text().trimmed()
+                                   + u".deb");
     }
 
     void controlFieldsAndComputedDependencies()
@@ -62,7 +57,7 @@ private Q_SLOTS:
 
     void filesAreExactlyTheInstalledOnes()
     {
-        const QString listing = run("dpkg-deb", {"--contents", m_deb}).out;
+        const QString listing = run("dpkg-deb", {"--contents", m_deb}).text();
         QStringList files;
         for (const QString &line : listing.split(u'\n', Qt::SkipEmptyParts)) {
             if (!line.startsWith(u'd')) // directories come with their files
@@ -98,7 +93,7 @@ private Q_SLOTS:
         QTemporaryDir unpacked;
         QCOMPARE(run("dpkg-deb", {"-x", m_deb, unpacked.path()}).exitCode, 0);
         for (const char *file : {"/usr/bin/vandorel", "/usr/lib/vandorel/vandorel-program.so"}) {
-            const QString sections = run("readelf", {"-S", "-W", unpacked.path() + file}).out;
+            const QString sections = run("readelf", {"-S", "-W", unpacked.path() + file}).text();
             QVERIFY2(sections.contains(u" .text "), file);
             QVERIFY2(!sections.contains(u" .symtab "), file);
             QVERIFY2(!sections.contains(u" .debug_"), file);
@@ -108,10 +103,10 @@ private Q_SLOTS:
     // Lintian's errors fail the test; its warnings are listed in the output.
     void lintianFindsNoError()
     {
-        const Result lintian = run("lintian", {"--no-tag-display-limit", "--info", m_deb});
-        QVERIFY2(lintian.exitCode == 0 || lintian.exitCode == 1, qPrintable(lintian.out));
+        const ProgramRun lintian = run("lintian", {"--no-tag-display-limit", "--info", m_deb});
+        QVERIFY2(lintian.exitCode == 0 || lintian.exitCode == 1, qPrintable(lintian.text()));
         QStringList errors;
-        for (const QString &line : lintian.out.split(u'\n', Qt::SkipEmptyParts)) {
+        for (const QString &line : lintian.text().split(u'\n', Qt::SkipEmptyParts)) {
             if (line.startsWith(u"E: "))
                 errors << line;
             else if (line.startsWith(u"W: "))
@@ -123,9 +118,9 @@ private Q_SLOTS:
     // What apt would do with it on this system, without doing it.
     void aptCanInstallIt()
     {
-        const Result apt = run("apt-get", {"--simulate", "install", m_deb}, true);
-        QVERIFY2(apt.exitCode == 0, qPrintable(apt.out));
-        QVERIFY2(apt.out.contains(u"Inst vandorel "), qPrintable(apt.out));
+        const ProgramRun apt = run("apt-get", {"--simulate", "install", m_deb}, true);
+        QVERIFY2(apt.exitCode == 0, qPrintable(apt.text()));
+        QVERIFY2(apt.text().contains(u"Inst vandorel "), qPrintable(apt.text()));
     }
 };
 
