@@ -28,15 +28,6 @@ class AppTest : public QObject {
 
     std::unique_ptr<XdgTree> m_tree;
 
-    // A real entry, its programs replaced by stubs so GIO counts it as installed.
-    void installFixture(const QString &file)
-    {
-        QVERIFY(!m_tree
-                     ->installFixture(QStringLiteral(FIXTURES_DIR) + u'/' + file,
-                                      QStringLiteral("share1/applications"))
-                     .isEmpty());
-    }
-
     static QStringList installedNames(const QJsonObject &report, const char *side)
     {
         QStringList names;
@@ -134,9 +125,12 @@ private Q_SLOTS:
     {
         qunsetenv("XDG_CURRENT_DESKTOP");
         m_tree = std::make_unique<XdgTree>();
-        installFixture(QStringLiteral("firefox-esr.desktop"));
-        installFixture(QStringLiteral("chromium.desktop"));
-        installFixture(QStringLiteral("thunderbird.desktop"));
+        // Real entries, their programs replaced by stubs so GIO counts them as installed.
+        for (const char *file : {"firefox-esr.desktop", "chromium.desktop", "thunderbird.desktop"})
+            QVERIFY(!m_tree
+                         ->installFixture(QStringLiteral(FIXTURES_DIR "/") + QLatin1String(file),
+                                          QStringLiteral("share1/applications"))
+                         .isEmpty());
         m_tree->entry(QStringLiteral("share2/applications"), QStringLiteral("claws-mail.desktop"),
                       "x-scheme-handler/mailto;");
         m_tree->updateCaches();
