@@ -16,6 +16,7 @@ private slots:
 
         row("numeric, not textual", "1.10", "1.9", true, false);
         row("missing parts are zeros", "1.2", "1.2.0", false, false);
+        row("a missing part beats a negative one", "1.2", "1.2.-1", true, false);
         row("shorter can be newer", "2", "1.9.9", true, false);
         row("junk part moves the rest up", "1.2.3", "1.2.x.4", false, true);
         row("part too large is dropped", "1.99999999999999999999", "1.0", false, false);
